@@ -1,0 +1,68 @@
+// The base of every record that can dump itself, and the layer that gives all of them their regular operations.
+#ifndef KRM_FRAMEWORK_RECORD_H_
+#define KRM_FRAMEWORK_RECORD_H_
+
+#include <cstdarg>
+
+#include "krm/platform/config.h"
+
+class CKRMCBaseAdaptDataStructure;
+
+namespace krm {
+
+template <class Owner, int Depth>
+class DumpLines;
+/// What a record's Dump writes its lines with; see krm/framework/dump.h.
+using RecordLines = DumpLines<CKRMCBaseAdaptDataStructure, 0>;
+
+}  // namespace krm
+
+/// Base of every record that has a dump. Records are plain values: created by default or by copy, changed through their
+/// fields, reset by Clear.
+///
+/// The order of the virtual operations is part of the interface.
+class KRM_API CKRMCBaseAdaptDataStructure {
+public:
+    CKRMCBaseAdaptDataStructure() = default;
+    CKRMCBaseAdaptDataStructure(const CKRMCBaseAdaptDataStructure&) = default;
+    CKRMCBaseAdaptDataStructure& operator=(const CKRMCBaseAdaptDataStructure&) = default;
+    virtual ~CKRMCBaseAdaptDataStructure();
+
+    /// Restores the values that the default constructor sets.
+    virtual void Clear();
+
+    /// Writes the record to the operation log, one line per field. `format` and its arguments, as for printf, make the
+    /// prefix that names this record in each line, for example "[%s] Data[%d]". Returns 0, whatever the log writer
+    /// returned.
+    virtual krm_long ErrWriteOperationLogStructure(const char* format, ...) KRM_PRINTF_LIKE(2, 3) = 0;
+
+    /// Formats one line as printf does, writes it to the operation log and returns the log writer's result.
+    virtual krm_long ER_WriteOperationLogFormatStructure(const char* format, ...) KRM_PRINTF_LIKE(2, 3);
+
+protected:
+    /// Makes the prefix of `format` and `arguments` and calls `dump` with this record and lines under that prefix.
+    void DumpUnderPrefix(const char* format, std::va_list arguments,
+                         void (*dump)(CKRMCBaseAdaptDataStructure& record, const krm::RecordLines& line));
+};
+
+/// The regular operations of a record, written once: `class X : public RecordOf<X>`. X adds its fields with their
+/// defaults and `void Dump(const krm::RecordLines& line)`, which writes its log lines in order.
+///
+/// Adds no data member and no virtual operation.
+template <class Record>
+class RecordOf : public CKRMCBaseAdaptDataStructure {
+public:
+    void Clear() override { static_cast<Record&>(*this) = Record(); }
+
+    krm_long ErrWriteOperationLogStructure(const char* format, ...) override KRM_PRINTF_LIKE(2, 3) {
+        std::va_list arguments;
+        va_start(arguments, format);
+        DumpUnderPrefix(format, arguments, [](CKRMCBaseAdaptDataStructure& record, const krm::RecordLines& line) {
+            static_cast<Record&>(record).Dump(line);
+        });
+        va_end(arguments);
+        return 0;
+    }
+};
+
+#endif  // KRM_FRAMEWORK_RECORD_H_

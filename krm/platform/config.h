@@ -1,0 +1,65 @@
+// Integer types and export marks that every header of the library shares.
+//
+// Includes nothing of the library; everything else may include it.
+#ifndef KRM_PLATFORM_CONFIG_H_
+#define KRM_PLATFORM_CONFIG_H_
+
+#include <climits>
+#include <cstdint>
+
+/// Unsigned 32-bit number of the interface. It is `unsigned long` wherever that has 32 bits (Windows, 32-bit Linux), so
+/// that the interface there is exactly the documented one, and `std::uint32_t` elsewhere, so that a 64-bit build stores
+/// and wraps the same values.
+/// `krm_long` is its signed twin: `long`, or `std::int32_t` where `long` is wider.
+#if ULONG_MAX == 0xFFFFFFFFUL
+using krm_ulong = unsigned long;
+using krm_long = long;
+#else
+using krm_ulong = std::uint32_t;
+using krm_long = std::int32_t;
+#endif
+
+/// Signed 64-bit integer: the result of sign handling in the converters.
+using krm_int64 = std::int64_t;
+
+static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 4 && CHAR_BIT == 8,
+              "the interface is defined on 8-bit bytes and 32-bit numbers");
+
+// KRM_API marks a class or function that the library exports, KRM_PLATFORM_API one of the platform library.
+//
+// Members of the list template are marked one by one (KRM_TEMPLATE_MEMBER), and only while a library is built: an
+// explicit instantiation exports just the members that carry a mark themselves, and a user who saw them as imported
+// could not instantiate a list of his own. KRM_TEMPLATE_CLASS is the same thing for ELF, where visibility belongs to the
+// class template.
+#if defined(_WIN32)
+#if defined(KRM_BUILDING_ADAPTATION_DATA)
+#define KRM_API __declspec(dllexport)
+#else
+#define KRM_API __declspec(dllimport)
+#endif
+#if defined(KRM_BUILDING_PLATFORM)
+#define KRM_PLATFORM_API __declspec(dllexport)
+#else
+#define KRM_PLATFORM_API __declspec(dllimport)
+#endif
+#if defined(KRM_BUILDING_ADAPTATION_DATA) || defined(KRM_BUILDING_PLATFORM)
+#define KRM_TEMPLATE_MEMBER __declspec(dllexport)
+#else
+#define KRM_TEMPLATE_MEMBER
+#endif
+#define KRM_TEMPLATE_CLASS
+#else
+#define KRM_API __attribute__((visibility("default")))
+#define KRM_PLATFORM_API __attribute__((visibility("default")))
+#define KRM_TEMPLATE_MEMBER
+#define KRM_TEMPLATE_CLASS __attribute__((visibility("default")))
+#endif
+
+// Lets GCC and Clang check the arguments of a printf-like function; positions count `this` as the first.
+#if defined(__GNUC__)
+#define KRM_PRINTF_LIKE(formatPosition, firstArgument) __attribute__((format(printf, formatPosition, firstArgument)))
+#else
+#define KRM_PRINTF_LIKE(formatPosition, firstArgument)
+#endif
+
+#endif  // KRM_PLATFORM_CONFIG_H_

@@ -1,0 +1,18 @@
+// printf-style formatting that no locale and no C library's peculiarity reaches. Part of the platform library's inside.
+#ifndef KRM_PLATFORM_FORMAT_H_
+#define KRM_PLATFORM_FORMAT_H_
+
+#include <cstdarg>
+#include <string>
+
+namespace krm::platform {
+
+/// Appends `format` filled with `arguments` to `out`, as printf prints it in the C locale.
+///
+/// All conversions of C but `%n`, which writes nothing; `l`, `ll`, `h`, `hh`, `z`, `j`, `t` and `L` give the argument's
+/// size. A null text prints as "(null)". Numbers go through std::to_chars: correctly rounded and the same everywhere.
+void AppendFormatted(std::string& out, const char* format, std::va_list arguments);
+
+}  // namespace krm::platform
+
+#endif  // KRM_PLATFORM_FORMAT_H_
