@@ -1,0 +1,178 @@
+// What tests know of every record and message: its fields, in order. From that one list per class they fill an object,
+// compare two, and check defaults.
+//
+// Each class has a function, beside the tests of its area, in the global namespace so that lookup by argument finds it:
+//
+//     inline auto FieldsOf(CKRMCCommandEcuData& it) { return std::tie(it.m_ushEcuConnectionStatus, it.m_ulEcuId); }
+//
+// A message's function lists its own fields; the members of its bases are handled here.
+#ifndef KRM_TESTS_SUPPORT_FIELDS_H_
+#define KRM_TESTS_SUPPORT_FIELDS_H_
+
+#include <cstdint>
+#include <string>
+#include <tuple>
+#include <type_traits>
+
+#include "krm/core/list.h"
+#include "krm/framework/message.h"
+#include "krm/platform/platform.h"
+
+inline auto FieldsOf(CKRMError& it) {
+    return std::tie(it.a_ulReturnCode, it.a_strErrorModuleName, it.a_strErrorClassName, it.a_strErrorFunctionName,
+                    it.a_strErrorFunctionArgs, it.a_strMessage);
+}
+
+namespace krm::test {
+
+template <class T>
+struct IsListTrait : std::false_type {};
+template <class T>
+struct IsListTrait<CKRMList<T>> : std::true_type {};
+template <class T>
+concept IsList = IsListTrait<T>::value;
+
+template <class T>
+concept HasEcuId = requires(T& it) {
+    it.T::DirectionBase::m_ulEcuId;
+};
+template <class T>
+concept HasNotSupport = requires(T& it) {
+    it.T::DirectionBase::m_bNotSupport;
+};
+template <class T>
+concept HasVdcSndValue = requires(T& it) {
+    it.T::DirectionBase::m_ulVdcSndValue;
+};
+
+/// Calls `visit` for each field of `it`, the members of a message's bases first.
+template <class T, class Visit>
+void ForEachField(T& it, Visit visit) {
+    if constexpr (HasEcuId<T>) {
+        visit(it.T::DirectionBase::m_ulEcuId);
+    }
+    if constexpr (HasNotSupport<T>) {
+        visit(it.T::DirectionBase::m_bNotSupport);
+    }
+    if constexpr (HasVdcSndValue<T>) {
+        visit(it.T::DirectionBase::m_ulVdcSndValue);
+    }
+    std::apply([&](auto&... fields) { (visit(fields), ...); }, FieldsOf(it));
+}
+
+/// A repeatable stream of numbers (xorshift), the same on every platform.
+class Seed {
+public:
+    explicit Seed(std::uint32_t value) : m_state(value | 1U) {}
+    std::uint32_t Next() {
+        m_state ^= m_state << 13U;
+        m_state ^= m_state >> 17U;
+        m_state ^= m_state << 5U;
+        return m_state;
+    }
+
+private:
+    std::uint32_t m_state;
+};
+
+/// Fills `it` and all it holds with values that are not its defaults; each list gets two elements more.
+template <class T>
+void Fill(T& it, Seed& seed) {
+    if constexpr (std::is_same_v<T, bool>) {
+        it = true;
+    } else if constexpr (std::is_same_v<T, double>) {
+        it = static_cast<double>(static_cast<std::int32_t>(seed.Next())) / 1024.0 + 0.0625;
+    } else if constexpr (std::is_integral_v<T>) {
+        it = static_cast<T>(seed.Next() | 2U);
+    } else if constexpr (std::is_same_v<T, CKRMString>) {
+        it = ("text " + std::to_string(seed.Next())).c_str();
+    } else if constexpr (std::is_array_v<T>) {
+        for (auto& element : it) {
+            Fill(element, seed);
+        }
+    } else if constexpr (std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
+        for (int i = 0; i < 2; ++i) {
+            CKRMString key;
+            CKRMString value;
+            Fill(key, seed);
+            Fill(value, seed);
+            it.SetAt(key, value);
+        }
+    } else if constexpr (IsList<T>) {
+        for (int i = 0; i < 2; ++i) {
+            std::remove_cvref_t<decltype(it.GetAt(0))> element{};
+            Fill(element, seed);
+            it.AddTail(element);
+        }
+    } else {
+        ForEachField(it, [&](auto& field) { Fill(field, seed); });
+    }
+}
+
+/// Whether every field of `it`, at any depth, is 0, false or empty.
+template <class T>
+bool IsZero(T& it) {
+    if constexpr (std::is_arithmetic_v<T>) {
+        return it == T{};
+    } else if constexpr (std::is_same_v<T, CKRMString>) {
+        return it.GetLength() == 0;
+    } else if constexpr (std::is_array_v<T>) {
+        bool zero = true;
+        for (auto& element : it) {
+            zero = zero && IsZero(element);
+        }
+        return zero;
+    } else if constexpr (IsList<T> || std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
+        return it.GetCount() == 0;
+    } else {
+        bool zero = true;
+        ForEachField(it, [&](auto& field) { zero = zero && IsZero(field); });
+        return zero;
+    }
+}
+
+/// All that `it` holds, written out one value after the other: equal texts mean equal contents.
+template <class T>
+void Describe(T& it, std::string& out) {
+    if constexpr (std::is_integral_v<T>) {
+        out += std::to_string(static_cast<std::int64_t>(it)) + ';';
+    } else if constexpr (std::is_same_v<T, double>) {
+        CKRMString text;
+        text.Format("%.17g;", it);
+        out += text.GetText();
+    } else if constexpr (std::is_same_v<T, CKRMString>) {
+        out += '"' + std::string(it.GetText()) + "\";";
+    } else if constexpr (std::is_array_v<T>) {
+        for (auto& element : it) {
+            Describe(element, out);
+        }
+    } else if constexpr (std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
+        for (const auto& [key, value] : it) {
+            out += std::string(key.GetText()) + '=' + value.GetText() + ';';
+        }
+    } else if constexpr (IsList<T>) {
+        out += '[' + std::to_string(it.GetCount()) + ':';
+        for (auto& element : it) {
+            Describe(element, out);
+        }
+        out += ']';
+    } else {
+        out += '{';
+        if constexpr (std::is_base_of_v<CKRMBaseAdaptationData, T>) {
+            out += std::to_string(it.GetCommandType()) + '/' + std::to_string(it.GetCommandID()) + ' ';
+        }
+        ForEachField(it, [&](auto& field) { Describe(field, out); });
+        out += '}';
+    }
+}
+
+template <class T>
+std::string Described(T& it) {
+    std::string out;
+    Describe(it, out);
+    return out;
+}
+
+}  // namespace krm::test
+
+#endif  // KRM_TESTS_SUPPORT_FIELDS_H_
