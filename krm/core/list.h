@@ -168,7 +168,8 @@ CKRMListIterator<const T> end(const CKRMList<T>&) {
     return CKRMListIterator<const T>();
 }
 
-// Members are defined outside the class: only so does an explicit instantiation export them from a DLL.
+// Members are defined outside the class: only so does an explicit instantiation export them from a DLL. The short
+// ones may be compiled into the caller all the same (KRM_TEMPLATE_INLINE).
 
 template <class T>
 CKRMList<T>::CKRMList() : m_count(0), m_head(nullptr), m_tail(nullptr) {}
@@ -282,62 +283,62 @@ void CKRMList<T>::RemoveAll() {
 }
 
 template <class T>
-int CKRMList<T>::GetCount() const {
+KRM_TEMPLATE_INLINE int CKRMList<T>::GetCount() const {
     return m_count;
 }
 
 template <class T>
-_SKRMPOSITION* CKRMList<T>::GetHeadPosition() const {
+KRM_TEMPLATE_INLINE _SKRMPOSITION* CKRMList<T>::GetHeadPosition() const {
     return ToPosition(m_head);
 }
 
 template <class T>
-_SKRMPOSITION* CKRMList<T>::GetTailPosition() const {
+KRM_TEMPLATE_INLINE _SKRMPOSITION* CKRMList<T>::GetTailPosition() const {
     return ToPosition(m_tail);
 }
 
 // Loads the position, steps it and stores it back; never through a reference of another type.
 template <class T>
-T* CKRMList<T>::GetNextPtr(_SKRMPOSITION*& position) const {
+KRM_TEMPLATE_INLINE T* CKRMList<T>::GetNextPtr(_SKRMPOSITION*& position) const {
     Node* const node = ToNode(position);
     position = ToPosition(node->next);
     return &node->element;
 }
 
 template <class T>
-T* CKRMList<T>::GetPrevPtr(_SKRMPOSITION*& position) const {
+KRM_TEMPLATE_INLINE T* CKRMList<T>::GetPrevPtr(_SKRMPOSITION*& position) const {
     Node* const node = ToNode(position);
     position = ToPosition(node->prev);
     return &node->element;
 }
 
 template <class T>
-T CKRMList<T>::GetNext(_SKRMPOSITION*& position) const {
+KRM_TEMPLATE_INLINE T CKRMList<T>::GetNext(_SKRMPOSITION*& position) const {
     return *GetNextPtr(position);
 }
 
 template <class T>
-T& CKRMList<T>::GetNext(_SKRMPOSITION*& position) {
+KRM_TEMPLATE_INLINE T& CKRMList<T>::GetNext(_SKRMPOSITION*& position) {
     return *GetNextPtr(position);
 }
 
 template <class T>
-T* CKRMList<T>::GetNextPtr(_SKRMPOSITION*& position) {
+KRM_TEMPLATE_INLINE T* CKRMList<T>::GetNextPtr(_SKRMPOSITION*& position) {
     return static_cast<const CKRMList<T>*>(this)->GetNextPtr(position);
 }
 
 template <class T>
-T CKRMList<T>::GetPrev(_SKRMPOSITION*& position) const {
+KRM_TEMPLATE_INLINE T CKRMList<T>::GetPrev(_SKRMPOSITION*& position) const {
     return *GetPrevPtr(position);
 }
 
 template <class T>
-T& CKRMList<T>::GetPrev(_SKRMPOSITION*& position) {
+KRM_TEMPLATE_INLINE T& CKRMList<T>::GetPrev(_SKRMPOSITION*& position) {
     return *GetPrevPtr(position);
 }
 
 template <class T>
-T* CKRMList<T>::GetPrevPtr(_SKRMPOSITION*& position) {
+KRM_TEMPLATE_INLINE T* CKRMList<T>::GetPrevPtr(_SKRMPOSITION*& position) {
     return static_cast<const CKRMList<T>*>(this)->GetPrevPtr(position);
 }
 

@@ -5,8 +5,8 @@
 //     line("%s.m_cTripTime", m_cTripTime);           // an embedded record: its own lines under this prefix
 //     line("%s.m_cEcuList[%d]", m_cEcuList);         // a list of records: each element's lines
 //     line("[%s] m_uchSSRNo[%d]=%d", m_uchSSRNo);    // a list of numbers: a line each
-//     line.ForEach(Data, [](const auto& line, auto& item) {        // elements whose fields the holder writes:
-//         line("[%s] Data[%d].m_ushId=%d", item.m_ushId);          // one index more per level
+//     line.ForEach(Data, [](const auto& itemLine, auto& item) {    // elements whose fields the holder writes:
+//         itemLine("[%s] Data[%d].m_ushId=%d", item.m_ushId);      // one index more per level
 //     });
 //
 // Every literal is checked while compiling against the types of its fields and the number of indices.
@@ -176,7 +176,7 @@ public:
         }
     }
 
-    /// Calls `write(line, element)` for each element of `list`, with lines that have the element's index added.
+    /// Calls `write(elementLine, element)` for each element of `list`, with lines that have the element's index added.
     template <class T, class Write>
     void ForEach(CKRMList<T>& list, Write write) const {
         std::array<int, Depth + 1> indices{};

@@ -44,14 +44,17 @@ static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 
 #endif
 #if defined(KRM_BUILDING_ADAPTATION_DATA) || defined(KRM_BUILDING_PLATFORM)
 #define KRM_TEMPLATE_MEMBER __declspec(dllexport)
+#define KRM_TEMPLATE_INLINE  // an inline member would not be exported
 #else
 #define KRM_TEMPLATE_MEMBER
+#define KRM_TEMPLATE_INLINE inline
 #endif
 #define KRM_TEMPLATE_CLASS
 #else
 #define KRM_API __attribute__((visibility("default")))
 #define KRM_PLATFORM_API __attribute__((visibility("default")))
 #define KRM_TEMPLATE_MEMBER
+#define KRM_TEMPLATE_INLINE inline
 #define KRM_TEMPLATE_CLASS __attribute__((visibility("default")))
 #endif
 
