@@ -94,12 +94,12 @@ private:
         Node* prev = nullptr;
     };
 
-    static Node* ToNode(_SKRMPOSITION* position) { return reinterpret_cast<Node*>(position); }
-    static _SKRMPOSITION* ToPosition(Node* node) { return reinterpret_cast<_SKRMPOSITION*>(node); }
+    KRM_TEMPLATE_PRIVATE static Node* ToNode(_SKRMPOSITION* position) { return reinterpret_cast<Node*>(position); }
+    KRM_TEMPLATE_PRIVATE static _SKRMPOSITION* ToPosition(Node* node) { return reinterpret_cast<_SKRMPOSITION*>(node); }
 
-    static std::unique_ptr<Node> NewNode(const T& element);
-    void Append(Node* node);
-    Node* NodeAt(int index) const;
+    KRM_TEMPLATE_PRIVATE static std::unique_ptr<Node> NewNode(const T& element);
+    KRM_TEMPLATE_PRIVATE void Append(Node* node);
+    KRM_TEMPLATE_PRIVATE Node* NodeAt(int index) const;
 
     int m_count;
     Node* m_head;

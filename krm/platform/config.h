@@ -30,7 +30,7 @@ static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 
 // Members of the list template are marked one by one (KRM_TEMPLATE_MEMBER), and only while a library is built: an
 // explicit instantiation exports just the members that carry a mark themselves, and a user who saw them as imported
 // could not instantiate a list of his own. KRM_TEMPLATE_CLASS is the same thing for ELF, where visibility belongs to the
-// class template.
+// class template; KRM_TEMPLATE_PRIVATE takes its inner workings out again.
 #if defined(_WIN32)
 #if defined(KRM_BUILDING_ADAPTATION_DATA)
 #define KRM_API __declspec(dllexport)
@@ -50,12 +50,14 @@ static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 
 #define KRM_TEMPLATE_INLINE inline
 #endif
 #define KRM_TEMPLATE_CLASS
+#define KRM_TEMPLATE_PRIVATE
 #else
 #define KRM_API __attribute__((visibility("default")))
 #define KRM_PLATFORM_API __attribute__((visibility("default")))
 #define KRM_TEMPLATE_MEMBER
 #define KRM_TEMPLATE_INLINE inline
 #define KRM_TEMPLATE_CLASS __attribute__((visibility("default")))
+#define KRM_TEMPLATE_PRIVATE __attribute__((visibility("hidden")))
 #endif
 
 // Lets GCC and Clang check the arguments of a printf-like function; positions count `this` as the first.
