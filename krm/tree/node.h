@@ -59,7 +59,8 @@ public:
     /// is 0 unless a class of your own returns something else. The base appends nothing and returns 0.
     ///
     /// However many siblings and levels there are, the library's own classes need no deep stack. A node of a class of
-    /// your own is described by a call of its Description, which encloses that of all its followers.
+    /// your own is described by a call of its Description, which encloses that of all its followers: an overriding
+    /// Description calls its base's to go on with them. Compile such classes with run-time type information.
     virtual krm_ulong Description(CKRMString& out);
 
     /// What the node is: krm::tree::kAttributeKind, kElementKind or kElementGroupKind.
