@@ -1,0 +1,922 @@
+#include "krm/tree/element.h"
+
+#include <algorithm>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "gmock/gmock.h"
+#include "gtest/gtest.h"
+#include "krm/tree/element_group.h"
+#include "tests/support/failing_allocation.h"
+#include "tests/support/recording_error.h"
+#include "tests/support/small_stack.h"
+#include "tests/tree/own_nodes.h"
+
+namespace krm::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+const char* const kLongName = "a name that is longer than what a string holds without memory of its own";
+const char* const kNoText = nullptr;
+
+// Nothing but the documented members.
+struct NodeLayout {
+    virtual ~NodeLayout() = default;
+    krm_ulong kind;
+    CKRMString name;
+    void* links[3];
+};
+struct ElementLayout : NodeLayout {
+    void* ends[4];
+};
+struct GroupLayout : NodeLayout {
+    void* ends[2];
+};
+static_assert(sizeof(CKRMCElement) == sizeof(ElementLayout));
+static_assert(sizeof(CKRMCElementGroup) == sizeof(GroupLayout));
+
+std::vector<std::string> NamesFrom(const CKRMCNode* node) {
+    std::vector<std::string> names;
+    for (; node != nullptr; node = node->GetNext()) {
+        names.emplace_back(node->GetName());
+    }
+    return names;
+}
+
+TEST(Element, IsEmptyAtFirst) {
+    CKRMCElement element("Name");
+    EXPECT_EQ(2u, element.GetKind());
+    EXPECT_STREQ("Name", element.GetName());
+    EXPECT_EQ(nullptr, element.GetFirstAttribute());
+    EXPECT_EQ(nullptr, element.GetFirstGroup());
+    EXPECT_EQ("<Name>\n</Name>\n", Described(element));
+    CKRMCElement nameless(nullptr);
+    EXPECT_EQ("<>\n</>\n", Described(nameless));
+}
+
+TEST(ElementGroup, IsEmptyAtFirst) {
+    CKRMError error;
+    CKRMCElementGroup group("Name");
+    EXPECT_EQ(3u, group.GetKind());
+    EXPECT_STREQ("Name", group.GetName());
+    EXPECT_EQ(nullptr, group.GetFirstElement(&error));
+    EXPECT_EQ("", Described(group));
+    EXPECT_STREQ("", CKRMCElementGroup(nullptr).GetName());
+}
+
+#if defined(__GNUC__)
+TEST(Element, SlotsAreInDocumentedOrder) {
+    EXPECT_EQ(2u, SlotOf(&CKRMCElement::Description));
+    EXPECT_EQ(3u, SlotOf(&CKRMCElement::RemoveAll));
+    EXPECT_EQ(4u, SlotOf(&CKRMCElement::CreateAttribute));
+    EXPECT_EQ(5u, SlotOf(&CKRMCElement::RemoveAttribute));
+    EXPECT_EQ(6u, SlotOf(&CKRMCElement::GetAttribute));
+    EXPECT_EQ(7u, SlotOf(&CKRMCElement::CreateElementGroup));
+    EXPECT_EQ(8u, SlotOf(&CKRMCElement::RemoveElementGroup));
+    EXPECT_EQ(9u, SlotOf(&CKRMCElement::GetElementGroup));
+    EXPECT_EQ(10u, SlotOf(&CKRMCElement::CreateElement));
+    EXPECT_EQ(11u, SlotOf(&CKRMCElement::RemoveElement));
+    EXPECT_EQ(12u, SlotOf(&CKRMCElement::GetFirstElement));
+    EXPECT_EQ(13u, SlotOf(&CKRMCElement::GetElementByAttribute));
+    EXPECT_EQ(2u, SlotOf(&CKRMCElementGroup::Description));
+    EXPECT_EQ(3u, SlotOf(&CKRMCElementGroup::CreateElement));
+    EXPECT_EQ(4u, SlotOf(&CKRMCElementGroup::RemoveElement));
+    EXPECT_EQ(5u, SlotOf(&CKRMCElementGroup::GetFirstElement));
+    EXPECT_EQ(6u, SlotOf(&CKRMCElementGroup::GetElementByAttribute));
+}
+#endif
+
+class MemberOrder : public CKRMCElement {
+public:
+    MemberOrder() : CKRMCElement("E") {}
+    bool Holds() {
+        const std::vector<std::uintptr_t> addresses{AddressOf(&m_pcParent), AddressOf(&m_pcFirstAttribute),
+                                                    AddressOf(&m_pcLastAttribute), AddressOf(&m_pcFirstGroup),
+                                                    AddressOf(&m_pcLastGroup)};
+        return std::is_sorted(addresses.begin(), addresses.end());
+    }
+};
+
+class GroupMemberOrder : public CKRMCElementGroup {
+public:
+    GroupMemberOrder() : CKRMCElementGroup("E") {}
+    bool Holds() {
+        return AddressOf(&m_pcParent) < AddressOf(&m_pcFirstElement) &&
+               AddressOf(&m_pcFirstElement) < AddressOf(&m_pcLastElement);
+    }
+};
+
+TEST(Element, MembersAreInDocumentedOrder) {
+    EXPECT_TRUE(MemberOrder().Holds());
+    EXPECT_TRUE(GroupMemberOrder().Holds());
+}
+
+TEST(CreateAttribute, GivesOnePerName) {
+    RecordingError error;
+    OwnElement element("E");
+    CKRMCAttribute* const id = element.CreateAttribute(&error, "Id");
+    ASSERT_NE(nullptr, id);
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode"));
+    EXPECT_STREQ("Id", id->GetName());
+    EXPECT_EQ(0u, id->GetValueType());
+    EXPECT_EQ(&element, id->GetParent());
+    EXPECT_EQ(id, element.GetFirstAttribute());
+    EXPECT_EQ(id, element.LastAttribute());
+    EXPECT_EQ(id, element.CreateAttribute(&error, "Id"));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode"));
+    EXPECT_EQ(nullptr, id->GetNext());
+
+    CKRMCAttribute* const code = element.CreateAttribute(nullptr, "Code");
+    CKRMCAttribute* const empty = element.CreateAttribute(nullptr, "");
+    EXPECT_EQ(empty, element.CreateAttribute(nullptr, ""));
+    EXPECT_THAT(NamesFrom(element.GetFirstAttribute()), ElementsAre("Id", "Code", ""));
+    EXPECT_EQ(id, code->GetPrev());
+    EXPECT_EQ(code, empty->GetPrev());
+    EXPECT_EQ(nullptr, id->GetPrev());
+    EXPECT_EQ(empty, element.LastAttribute());
+    EXPECT_EQ(code, element.GetAttribute(&error, "Code"));
+}
+
+TEST(CreateElementGroup, GivesOnePerName) {
+    RecordingError error;
+    OwnElement element("E");
+    CKRMCElementGroup* const dtc = element.CreateElementGroup(&error, "Dtc");
+    ASSERT_NE(nullptr, dtc);
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode"));
+    EXPECT_STREQ("Dtc", dtc->GetName());
+    EXPECT_EQ(&element, dtc->GetParent());
+    EXPECT_EQ(dtc, element.GetFirstGroup());
+    EXPECT_EQ(dtc, element.CreateElementGroup(&error, "Dtc"));
+    CKRMCElementGroup* const ffd = element.CreateElementGroup(nullptr, "Ffd");
+    EXPECT_THAT(NamesFrom(element.GetFirstGroup()), ElementsAre("Dtc", "Ffd"));
+    EXPECT_EQ(dtc, ffd->GetPrev());
+    EXPECT_EQ(ffd, element.LastGroup());
+    EXPECT_EQ(ffd, element.GetElementGroup(&error, "Ffd"));
+}
+
+TEST(CreateElement, AddsOneWithEveryCall) {
+    RecordingError error;
+    CKRMCElement element("E");
+    CKRMCElement* const first = element.CreateElement(&error, "Dtc");
+    ASSERT_NE(nullptr, first);
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode",
+                                               "GetErrorCode", "SetErrorCode(0)", "GetErrorCode"));
+    CKRMCElement* const second = element.CreateElement(nullptr, "Dtc");
+    ASSERT_NE(nullptr, second);
+    EXPECT_NE(first, second);
+    EXPECT_EQ(first, element.GetFirstElement(&error, "Dtc"));
+    EXPECT_EQ(second, first->GetNext());
+    EXPECT_EQ(first, second->GetPrev());
+    EXPECT_EQ(nullptr, second->GetNext());
+    EXPECT_STREQ("Dtc", second->GetName());
+    EXPECT_EQ(2u, second->GetKind());
+    EXPECT_EQ(element.GetFirstGroup(), first->GetParent());
+    EXPECT_EQ(nullptr, element.GetFirstGroup()->GetNext());
+}
+
+TEST(ElementGroup, CreatesElementsOfItsName) {
+    RecordingError error;
+    OwnGroup group("Dtc");
+    CKRMCElement* const element = group.CreateElement(&error);
+    ASSERT_NE(nullptr, element);
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)"));
+    EXPECT_STREQ("Dtc", element->GetName());
+    EXPECT_EQ(&group, element->GetParent());
+    EXPECT_EQ(element, group.GetFirstElement(&error));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)"));
+    EXPECT_EQ(element, group.LastElement());
+    CKRMCElement* const second = group.CreateElement(nullptr);
+    EXPECT_EQ(second, group.LastElement());
+    EXPECT_EQ(element, group.GetFirstElement(nullptr));
+}
+
+TEST(Element, NullArgumentsFail) {
+    RecordingError error;
+    CKRMCElement element("E");
+    CKRMCElementGroup group("G");
+    CKRMCAttribute attribute("A");
+    const auto expectNullArgument = [&error](bool failed) {
+        EXPECT_TRUE(failed);
+        EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetError(1100100001,,,,,)"));
+    };
+    for (CKRMError* const passed : {static_cast<CKRMError*>(nullptr), static_cast<CKRMError*>(&error)}) {
+        const auto expect = [&](bool failed) {
+            if (passed != nullptr) {
+                expectNullArgument(failed);
+            } else {
+                EXPECT_TRUE(failed);
+            }
+        };
+        expect(element.CreateAttribute(passed, kNoText) == nullptr);
+        expect(element.GetAttribute(passed, kNoText) == nullptr);
+        expect(!element.RemoveAttribute(passed, nullptr));
+        expect(element.CreateElementGroup(passed, kNoText) == nullptr);
+        expect(element.GetElementGroup(passed, kNoText) == nullptr);
+        expect(!element.RemoveElementGroup(passed, nullptr));
+        expect(element.CreateElement(passed, kNoText) == nullptr);
+        expect(!element.RemoveElement(passed, nullptr));
+        expect(element.GetFirstElement(passed, kNoText) == nullptr);
+        expect(element.GetElementByAttribute(passed, kNoText, &attribute) == nullptr);
+        expect(element.GetElementByAttribute(passed, "Dtc", nullptr) == nullptr);
+        expect(!group.RemoveElement(passed, nullptr));
+        expect(group.GetElementByAttribute(passed, nullptr) == nullptr);
+    }
+    EXPECT_EQ("<E>\n</E>\n", Described(element));
+}
+
+TEST(Element, AnUnknownNameIsNoError) {
+    RecordingError error;
+    error.a_ulReturnCode = 5;
+    CKRMCElement element("E");
+    CKRMCAttribute probe("A", krm_long(1));
+    EXPECT_EQ(nullptr, element.GetAttribute(&error, "None"));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)"));
+    EXPECT_EQ(nullptr, element.GetElementGroup(&error, "None"));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)"));
+    EXPECT_EQ(nullptr, element.GetFirstElement(&error, "None"));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode"));
+    EXPECT_EQ(nullptr, element.GetElementByAttribute(&error, "None", &probe));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode"));
+    EXPECT_EQ(0u, error.a_ulReturnCode);
+}
+
+TEST(GetFirstElement, AsksTheGroup) {
+    RecordingError error;
+    CKRMCElement element("E");
+    CKRMCElement* const child = element.CreateElement(nullptr, "Dtc");
+    EXPECT_EQ(child, element.GetFirstElement(&error, "Dtc"));
+    EXPECT_THAT(error.TakeCalls(),
+                ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode", "SetErrorCode(0)"));
+    element.CreateElementGroup(nullptr, "Empty");
+    EXPECT_EQ(nullptr, element.GetFirstElement(&error, "Empty"));
+    EXPECT_EQ(0u, error.a_ulReturnCode);
+}
+
+/// A vehicle with four `Dtc` elements: without `Code`, with an empty one, with the text "7", with the number 7.
+class Search : public ::testing::Test {
+protected:
+    Search() : vehicle("Vehicle") {
+        without = vehicle.CreateElement(nullptr, "Dtc");
+        empty = vehicle.CreateElement(nullptr, "Dtc");
+        empty->CreateAttribute(nullptr, "Code");
+        text = vehicle.CreateElement(nullptr, "Dtc");
+        text->CreateAttribute(nullptr, "Code")->SetValue(nullptr, "7");
+        number = vehicle.CreateElement(nullptr, "Dtc");
+        number->CreateAttribute(nullptr, "Code")->SetValue(nullptr, krm_long(7));
+    }
+
+    CKRMCElement vehicle;
+    CKRMCElement* without;
+    CKRMCElement* empty;
+    CKRMCElement* text;
+    CKRMCElement* number;
+    RecordingError error;
+};
+
+TEST_F(Search, GoesOnAfterErrorsOnEarlierElements) {
+    CKRMCAttribute probe("Code", krm_long(7));
+    EXPECT_EQ(number, vehicle.GetElementByAttribute(&error, "Dtc", &probe));
+    EXPECT_THAT(error.TakeCalls(),
+                ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode", "SetErrorCode(0)",
+                            // without the attribute
+                            "SetErrorCode(0)", "GetErrorCode",
+                            // an empty one
+                            "SetErrorCode(0)", "GetErrorCode", "SetErrorCode(0)", "SetError(2100100123,,,,,)",
+                            // another type
+                            "SetErrorCode(0)", "GetErrorCode", "SetErrorCode(0)", "SetError(2100100122,,,,,)",
+                            // equal
+                            "SetErrorCode(0)", "GetErrorCode", "SetErrorCode(0)", "GetErrorCode",
+                            // and the element's own look at the result
+                            "GetErrorCode"));
+    EXPECT_EQ(0u, error.a_ulReturnCode);
+    EXPECT_EQ(number, vehicle.GetElementByAttribute(nullptr, "Dtc", &probe));
+    EXPECT_EQ(number, vehicle.GetFirstGroup()->GetElementByAttribute(nullptr, &probe));
+}
+
+TEST_F(Search, FindsTheFirstOfEquals) {
+    vehicle.CreateElement(nullptr, "Dtc")->CreateAttribute(nullptr, "Code")->SetValue(nullptr, "7");
+    CKRMCAttribute probe("Code", "7");
+    EXPECT_EQ(text, vehicle.GetElementByAttribute(&error, "Dtc", &probe));
+}
+
+TEST_F(Search, AnUnequalValueAtTheEndLeavesNoError) {
+    CKRMCAttribute probe("Code", krm_long(8));
+    EXPECT_EQ(nullptr, vehicle.GetElementByAttribute(&error, "Dtc", &probe));
+    EXPECT_EQ(0u, error.a_ulReturnCode);
+}
+
+TEST_F(Search, AMissingAttributeAtTheEndLeavesNoError) {
+    vehicle.CreateElement(nullptr, "Dtc");
+    CKRMCAttribute probe("Code", 7.0);
+    EXPECT_EQ(nullptr, vehicle.GetElementByAttribute(&error, "Dtc", &probe));
+    EXPECT_EQ(0u, error.a_ulReturnCode);
+}
+
+TEST_F(Search, AnErrorAtTheEndStays) {
+    CKRMCAttribute real("Code", 7.0);
+    EXPECT_EQ(nullptr, vehicle.GetElementByAttribute(&error, "Dtc", &real));
+    EXPECT_EQ(2100100122u, error.a_ulReturnCode);
+    CKRMCAttribute unset("Code");
+    EXPECT_EQ(nullptr, vehicle.GetElementByAttribute(&error, "Dtc", &unset));
+    EXPECT_EQ(2100100123u, error.a_ulReturnCode);
+}
+
+TEST(GetElementByAttribute, AnotherTypeInTheOnlyElement) {
+    CKRMError error;
+    CKRMCElement vehicle("Vehicle");
+    vehicle.CreateElement(&error, "Dtc")->CreateAttribute(&error, "Code")->SetValue(&error, "7");
+    CKRMCAttribute probe("Code", krm_long(7));
+    EXPECT_EQ(nullptr, vehicle.GetElementByAttribute(&error, "Dtc", &probe));
+    EXPECT_EQ(2100100122u, error.a_ulReturnCode);
+}
+
+TEST(GetElementByAttribute, InAnEmptyGroup) {
+    RecordingError error;
+    CKRMCElementGroup group("Dtc");
+    CKRMCAttribute probe("Code", krm_long(7));
+    EXPECT_EQ(nullptr, group.GetElementByAttribute(&error, &probe));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)"));
+}
+
+TEST(RemoveAttribute, FromTheLastBackwards) {
+    RecordingError error;
+    OwnElement element("E");
+    CKRMCAttribute* const first = element.CreateAttribute(nullptr, "A");
+    CKRMCAttribute* const second = element.CreateAttribute(nullptr, "B");
+    CKRMCAttribute* const third = element.CreateAttribute(nullptr, "C");
+    EXPECT_TRUE(element.RemoveAttribute(&error, third));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)"));
+    EXPECT_THAT(NamesFrom(element.GetFirstAttribute()), ElementsAre("A", "B"));
+    EXPECT_EQ(second, element.LastAttribute());
+    EXPECT_TRUE(element.RemoveAttribute(nullptr, second));
+    EXPECT_TRUE(element.RemoveAttribute(nullptr, first));
+    EXPECT_EQ(nullptr, element.GetFirstAttribute());
+    EXPECT_EQ(nullptr, element.LastAttribute());
+    EXPECT_NE(nullptr, element.CreateAttribute(&error, "D"));
+    EXPECT_EQ("<E D[0]=\"NULL\">\n</E>\n", Described(element));
+}
+
+TEST(RemoveAttribute, OfAnotherElementFails) {
+    RecordingError error;
+    CKRMCElement element("E");
+    element.CreateAttribute(nullptr, "A");
+    CKRMCElement other("E");
+    CKRMCAttribute* const foreign = other.CreateAttribute(nullptr, "A");
+    EXPECT_FALSE(element.RemoveAttribute(&error, foreign));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetError(2100100101,,,,,)"));
+    EXPECT_FALSE(element.RemoveAttribute(nullptr, foreign));
+    EXPECT_EQ(foreign, other.GetFirstAttribute());
+}
+
+// After these removals the element leads to destroyed nodes: it is looked at once, by address, and never destroyed.
+
+TEST(RemoveAttribute, OfTheFirstDestroysAll) {
+    std::vector<std::string> destroyed;
+    Undestroyed<OwnElement> element("E");
+    CKRMCAttribute* const first = new Mortal<CKRMCAttribute>("A", destroyed);
+    CKRMCAttribute* const second = new Mortal<CKRMCAttribute>("B", destroyed);
+    CKRMCAttribute* const third = new Mortal<CKRMCAttribute>("C", destroyed);
+    for (CKRMCAttribute* const each : {first, second, third}) {
+        element->Adopt(each);
+    }
+    const std::uintptr_t addressOfSecond = AddressOf(second);
+    const std::uintptr_t addressOfThird = AddressOf(third);
+    CKRMError error;
+    EXPECT_TRUE(element->RemoveAttribute(&error, first));
+    EXPECT_EQ(0u, error.a_ulReturnCode);
+    EXPECT_THAT(destroyed, ElementsAre("A next", "B", "C"));
+    EXPECT_EQ(addressOfSecond, AddressOf(element->GetFirstAttribute()));
+    EXPECT_EQ(addressOfThird, AddressOf(element->LastAttribute()));
+}
+
+TEST(RemoveAttribute, OfTheSecondLeavesTheFirstLinkedToTheThird) {
+    std::vector<std::string> destroyed;
+    Undestroyed<OwnElement> element("E");
+    Undestroyed<Mortal<CKRMCAttribute>> first("A", destroyed);
+    CKRMCAttribute* const second = new Mortal<CKRMCAttribute>("B", destroyed);
+    CKRMCAttribute* const third = new Mortal<CKRMCAttribute>("C", destroyed);
+    for (CKRMCAttribute* const each : {static_cast<CKRMCAttribute*>(&*first), second, third}) {
+        element->Adopt(each);
+    }
+    const std::uintptr_t addressOfThird = AddressOf(third);
+    EXPECT_TRUE(element->RemoveAttribute(nullptr, second));
+    EXPECT_THAT(destroyed, ElementsAre("B prev next", "C"));
+    EXPECT_EQ(&*first, element->GetFirstAttribute());
+    EXPECT_EQ(addressOfThird, AddressOf(first->GetNext()));
+    EXPECT_EQ(addressOfThird, AddressOf(element->LastAttribute()));
+}
+
+TEST(RemoveElementGroup, DestroysItsElements) {
+    RecordingError error;
+    std::vector<std::string> destroyed;
+    OwnElement element("E");
+    CKRMCElementGroup* const first = element.CreateElementGroup(nullptr, "A");
+    auto* const second = new OwnGroup("B");
+    element.Adopt(second);
+    second->Adopt(new Mortal<CKRMCElement>("B", destroyed));
+    EXPECT_TRUE(element.RemoveElementGroup(&error, second));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)"));
+    EXPECT_THAT(destroyed, ElementsAre("B"));
+    EXPECT_EQ(first, element.LastGroup());
+    EXPECT_THAT(NamesFrom(element.GetFirstGroup()), ElementsAre("A"));
+}
+
+TEST(RemoveElementGroup, OfAnotherElementFails) {
+    RecordingError error;
+    CKRMCElement element("E");
+    element.CreateElementGroup(nullptr, "A");
+    CKRMCElement other("E");
+    CKRMCElementGroup* const foreign = other.CreateElementGroup(nullptr, "A");
+    EXPECT_FALSE(element.RemoveElementGroup(&error, foreign));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetError(2100100103,,,,,)"));
+    EXPECT_EQ(foreign, other.GetFirstGroup());
+}
+
+TEST(RemoveElementGroup, OfTheFirstDestroysAll) {
+    std::vector<std::string> destroyed;
+    Undestroyed<OwnElement> element("E");
+    CKRMCElementGroup* const first = new Mortal<CKRMCElementGroup>("A", destroyed);
+    CKRMCElementGroup* const second = new Mortal<CKRMCElementGroup>("B", destroyed);
+    element->Adopt(first);
+    element->Adopt(second);
+    const std::uintptr_t addressOfSecond = AddressOf(second);
+    EXPECT_TRUE(element->RemoveElementGroup(nullptr, first));
+    EXPECT_THAT(destroyed, ElementsAre("A next", "B"));
+    EXPECT_EQ(addressOfSecond, AddressOf(element->GetFirstGroup()));
+}
+
+TEST(RemoveElement, LeavesTheEmptiedGroup) {
+    RecordingError error;
+    CKRMCElement element("E");
+    CKRMCElement* const child = element.CreateElement(nullptr, "Dtc");
+    EXPECT_TRUE(element.RemoveElement(&error, child));
+    EXPECT_THAT(error.TakeCalls(),
+                ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode", "SetErrorCode(0)"));
+    EXPECT_THAT(NamesFrom(element.GetFirstGroup()), ElementsAre("Dtc"));
+    EXPECT_EQ(nullptr, element.GetFirstElement(nullptr, "Dtc"));
+    EXPECT_NE(nullptr, element.CreateElement(nullptr, "Dtc"));
+}
+
+TEST(RemoveElement, WithoutItsGroupFails) {
+    RecordingError error;
+    CKRMCElement element("E");
+    CKRMCElement stranger("Dtc");
+    EXPECT_FALSE(element.RemoveElement(&error, &stranger));
+    EXPECT_THAT(error.TakeCalls(),
+                ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode", "SetError(2100100103,,,,,)"));
+}
+
+TEST(RemoveElement, FromTheWrongGroupFails) {
+    RecordingError error;
+    CKRMCElement element("E");
+    element.CreateElement(nullptr, "Dtc");
+    CKRMCElement stranger("Dtc");
+    EXPECT_FALSE(element.RemoveElement(&error, &stranger));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(0)", "GetErrorCode", "SetErrorCode(0)",
+                                               "SetError(2100100102,,,,,)"));
+    EXPECT_FALSE(element.GetFirstGroup()->RemoveElement(&error, &stranger));
+    EXPECT_EQ(2100100102u, error.a_ulReturnCode);
+}
+
+TEST(RemoveElement, OfTheFirstDestroysAll) {
+    std::vector<std::string> destroyed;
+    Undestroyed<OwnGroup> group("Dtc");
+    CKRMCElement* const first = new Mortal<CKRMCElement>("1", destroyed);
+    CKRMCElement* const second = new Mortal<CKRMCElement>("2", destroyed);
+    group->Adopt(first);
+    group->Adopt(second);
+    const std::uintptr_t addressOfSecond = AddressOf(second);
+    EXPECT_TRUE(group->RemoveElement(nullptr, first));
+    EXPECT_THAT(destroyed, ElementsAre("1 next", "2"));
+    EXPECT_EQ(addressOfSecond, AddressOf(group->GetFirstElement(nullptr)));
+    EXPECT_EQ(addressOfSecond, AddressOf(group->LastElement()));
+}
+
+TEST(RemoveAll, LeavesAnElementToBeFilledAgain) {
+    OwnElement element("E");
+    for (int i = 0; i < 2; ++i) {
+        element.CreateAttribute(nullptr, "A")->SetValue(nullptr, kLongName);
+        element.CreateElement(nullptr, "Dtc")->CreateElement(nullptr, "Ffd");
+        element.CreateElement(nullptr, "Ecu");
+        EXPECT_EQ(std::string("<E A[1]=\"") + kLongName + "\">\n<Dtc>\n<Ffd>\n</Ffd>\n</Dtc>\n<Ecu>\n</Ecu>\n</E>\n",
+                  Described(element));
+        element.RemoveAll();
+        EXPECT_EQ(nullptr, element.GetFirstAttribute());
+        EXPECT_EQ(nullptr, element.LastAttribute());
+        EXPECT_EQ(nullptr, element.GetFirstGroup());
+        EXPECT_EQ(nullptr, element.LastGroup());
+    }
+    element.RemoveAll();
+    EXPECT_EQ("<E>\n</E>\n", Described(element));
+}
+
+TEST(ElementDescription, WritesTheTree) {
+    CKRMCElement ecu("Ecu");
+    ecu.CreateAttribute(nullptr, "Id")->SetValue(nullptr, krm_long(5));
+    ecu.CreateElement(nullptr, "Dtc");
+    EXPECT_EQ("<Ecu Id[3]=\"5\">\n<Dtc>\n</Dtc>\n</Ecu>\n", Described(ecu));
+    CKRMString text("before ");
+    EXPECT_EQ(0u, ecu.Description(text));
+    EXPECT_STREQ("before <Ecu Id[3]=\"5\">\n<Dtc>\n</Dtc>\n</Ecu>\n", text.GetText());
+}
+
+TEST(ElementDescription, WritesChildrenByName) {
+    CKRMCElement vehicle("Vehicle");
+    vehicle.CreateElement(nullptr, "Ecu")->CreateElement(nullptr, "Dtc")->CreateAttribute(nullptr, "Code");
+    vehicle.CreateElement(nullptr, "Key");
+    CKRMCElement* const second = vehicle.CreateElement(nullptr, "Ecu");
+    second->CreateAttribute(nullptr, "Id")->SetValue(nullptr, "<&>");
+    EXPECT_EQ(
+        "<Vehicle>\n"
+        "<Ecu>\n<Dtc Code[0]=\"NULL\">\n</Dtc>\n</Ecu>\n"
+        "<Ecu Id[1]=\"<&>\">\n</Ecu>\n"
+        "<Key>\n</Key>\n"
+        "</Vehicle>\n",
+        Described(vehicle));
+    EXPECT_EQ("<Ecu Id[1]=\"<&>\">\n</Ecu>\n", Described(*second));
+    EXPECT_EQ("<Ecu>\n<Dtc Code[0]=\"NULL\">\n</Dtc>\n</Ecu>\n<Ecu Id[1]=\"<&>\">\n</Ecu>\n<Key>\n</Key>\n",
+              Described(*vehicle.GetFirstGroup()));
+}
+
+/// Encloses the description of itself and its followers, and returns a result of its own.
+template <class Node, krm_ulong kResult>
+class Enclosing : public Node {
+public:
+    explicit Enclosing(const char* name) : Node(name) {}
+    krm_ulong Description(CKRMString& out) override {
+        out += "(";
+        Node::Description(out);
+        out += ")";
+        return kResult;
+    }
+};
+
+TEST(ElementDescription, CallsOverridingNodesAnywhere) {
+    OwnElement root("R");
+    auto* const firstGroup = new OwnGroup("G");
+    root.Adopt(firstGroup);
+    firstGroup->CreateElement(nullptr);
+    auto* const enclosing = new Enclosing<OwnElement, 1>("X");
+    firstGroup->Adopt(enclosing);
+    enclosing->Adopt(new Enclosing<CKRMCAttribute, 2>("A"));
+    enclosing->CreateElement(nullptr, "C");
+    firstGroup->CreateElement(nullptr);
+    auto* const secondGroup = new Enclosing<OwnGroup, 3>("H");
+    root.Adopt(secondGroup);
+    secondGroup->CreateElement(nullptr);
+    root.CreateElement(nullptr, "I");
+    CKRMString text;
+    EXPECT_EQ(3u, root.Description(text));
+    EXPECT_STREQ(
+        "<R>\n"
+        "<G>\n</G>\n"
+        "(<X( A[0]=\"NULL\")>\n<C>\n</C>\n</X>\n<G>\n</G>\n)"
+        "(<H>\n</H>\n<I>\n</I>\n)"
+        "</R>\n",
+        text.GetText());
+}
+
+TEST(ElementDescription, ReturnsTheLastNestedResult) {
+    OwnElement attributesOnly("E");
+    attributesOnly.Adopt(new Enclosing<CKRMCAttribute, 42>("A"));
+    CKRMString text;
+    EXPECT_EQ(42u, attributesOnly.Description(text));
+    attributesOnly.CreateElementGroup(nullptr, "G");
+    EXPECT_EQ(0u, attributesOnly.Description(text));
+
+    CKRMCElement root("R");
+    CKRMCElement* const child = root.CreateElement(nullptr, "C");
+    CKRMCElement* const grandchild = child->CreateElement(nullptr, "D");
+    auto* const last = new Enclosing<CKRMCElement, 43>("D");
+    Link::Between(*grandchild, *last);
+    EXPECT_EQ(43u, root.Description(text));
+    root.CreateElement(nullptr, "C");
+    EXPECT_EQ(0u, root.Description(text));
+}
+
+// A node destroys its own before its followers, and is destroyed before either.
+TEST(Element, DestroysAttributesThenGroupsThenFollowers) {
+    std::vector<std::string> destroyed;
+    {
+        OwnElement root("R");
+        CKRMCElementGroup* const plain = root.CreateElementGroup(nullptr, "plain");
+        CKRMCElement* const child = plain->CreateElement(nullptr);
+        Link::Between(*child, *new Mortal<CKRMCElement>("second child", destroyed));
+        auto* const group = new Mortal<OwnGroup>("group", destroyed);
+        root.Adopt(group);
+        auto* const element = new Mortal<OwnElement>("element", destroyed);
+        group->Adopt(element);
+        group->Adopt(new Mortal<CKRMCElement>("follower", destroyed));
+        element->Adopt(new Mortal<CKRMCElementGroup>("inner group", destroyed));
+        element->Adopt(new Mortal<CKRMCAttribute>("inner attribute", destroyed));
+        root.Adopt(new Mortal<CKRMCAttribute>("attribute", destroyed));
+    }
+    EXPECT_THAT(destroyed, ElementsAre("attribute", "second child", "group", "element", "inner attribute",
+                                       "inner group", "follower"));
+}
+
+/// Finds no attributes and no groups by name, so that creating one looks nothing up.
+class NoLookup : public CKRMCElement {
+public:
+    using CKRMCElement::CKRMCElement;
+    CKRMCAttribute* GetAttribute(CKRMError* error, const char*) override {
+        error->SetErrorCode(code);
+        return nullptr;
+    }
+    CKRMCElementGroup* GetElementGroup(CKRMError* error, const char*) override {
+        error->SetErrorCode(code);
+        return nullptr;
+    }
+    krm_ulong code = 0;
+};
+
+TEST(Element, OperationsCallOneAnotherVirtually) {
+    RecordingError error;
+    NoLookup element("E");
+    CKRMCElement* const first = element.CreateElement(nullptr, "G");
+    ASSERT_NE(nullptr, first);
+    EXPECT_NE(nullptr, element.CreateElement(nullptr, "G"));
+    EXPECT_NE(nullptr, element.CreateAttribute(nullptr, "A"));
+    EXPECT_NE(nullptr, element.CreateAttribute(nullptr, "A"));
+    EXPECT_THAT(NamesFrom(element.GetFirstAttribute()), ElementsAre("A", "A"));
+    EXPECT_THAT(NamesFrom(element.GetFirstGroup()), ElementsAre("G", "G"));
+    EXPECT_EQ(nullptr, element.GetFirstElement(&error, "G"));
+    EXPECT_FALSE(element.RemoveElement(&error, first));
+    EXPECT_EQ(2100100103u, error.a_ulReturnCode);
+
+    CKRMCAttribute probe("A");
+    element.code = 77;
+    EXPECT_EQ(nullptr, element.CreateAttribute(&error, "B"));
+    EXPECT_EQ(nullptr, element.CreateElementGroup(&error, "H"));
+    EXPECT_EQ(nullptr, element.CreateElement(&error, "H"));
+    EXPECT_EQ(nullptr, element.GetFirstElement(&error, "G"));
+    EXPECT_EQ(nullptr, element.GetElementByAttribute(&error, "G", &probe));
+    EXPECT_FALSE(element.RemoveElement(&error, first));
+    EXPECT_EQ(77u, error.a_ulReturnCode);
+    error.TakeCalls();
+    EXPECT_FALSE(element.RemoveElement(&error, first));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "SetErrorCode(77)", "GetErrorCode"));
+    EXPECT_THAT(NamesFrom(element.GetFirstAttribute()), ElementsAre("A", "A"));
+    EXPECT_THAT(NamesFrom(element.GetFirstGroup()), ElementsAre("G", "G"));
+}
+
+/// Creates no group and reports nothing.
+class NoGroups : public CKRMCElement {
+public:
+    using CKRMCElement::CKRMCElement;
+    CKRMCElementGroup* CreateElementGroup(CKRMError*, const char*) override { return nullptr; }
+};
+
+TEST(CreateElement, WithoutAGroupFails) {
+    RecordingError error;
+    NoGroups element("E");
+    EXPECT_EQ(nullptr, element.CreateElement(&error, "G"));
+    EXPECT_THAT(error.TakeCalls(), ElementsAre("SetErrorCode(0)", "GetErrorCode", "SetError(2100100103,,,,,)"));
+}
+
+/// Answers every operation with its one element, and reports `code`.
+class OneElementGroup : public CKRMCElementGroup {
+public:
+    OneElementGroup(CKRMCElement& element, std::vector<std::string>& calls)
+        : CKRMCElementGroup("G"), m_element(element), m_calls(calls) {}
+    CKRMCElement* CreateElement(CKRMError* error) override { return Answer("CreateElement", error); }
+    bool RemoveElement(CKRMError* error, CKRMCElement*) override { return Answer("RemoveElement", error) != nullptr; }
+    CKRMCElement* GetFirstElement(CKRMError* error) override { return Answer("GetFirstElement", error); }
+    CKRMCElement* GetElementByAttribute(CKRMError* error, CKRMCAttribute*) override {
+        return Answer("GetElementByAttribute", error);
+    }
+    krm_ulong code = 0;
+
+private:
+    CKRMCElement* Answer(const char* call, CKRMError* error) {
+        m_calls.emplace_back(call);
+        error->SetErrorCode(code);
+        return &m_element;
+    }
+    CKRMCElement& m_element;
+    std::vector<std::string>& m_calls;
+};
+
+TEST(Element, AsksItsGroupsVirtually) {
+    std::vector<std::string> calls;
+    CKRMError error;
+    CKRMCElement answer("G");
+    CKRMCAttribute probe("A");
+    OwnElement element("E");
+    auto* const group = new OneElementGroup(answer, calls);
+    element.Adopt(group);
+    EXPECT_EQ(&answer, element.CreateElement(nullptr, "G"));
+    EXPECT_EQ(&answer, element.GetFirstElement(nullptr, "G"));
+    EXPECT_EQ(&answer, element.GetElementByAttribute(nullptr, "G", &probe));
+    EXPECT_TRUE(element.RemoveElement(nullptr, &answer));
+    group->code = 77;
+    EXPECT_EQ(nullptr, element.CreateElement(&error, "G"));
+    EXPECT_EQ(&answer, element.GetFirstElement(&error, "G")) << "its error is not looked at";
+    EXPECT_EQ(nullptr, element.GetElementByAttribute(&error, "G", &probe));
+    EXPECT_TRUE(element.RemoveElement(&error, &answer)) << "its error is not looked at";
+    EXPECT_EQ(77u, error.a_ulReturnCode);
+    EXPECT_THAT(calls, ElementsAre("CreateElement", "GetFirstElement", "GetElementByAttribute", "RemoveElement",
+                                   "CreateElement", "GetFirstElement", "GetElementByAttribute", "RemoveElement"));
+}
+
+/// Calls every attribute equal, and reports `code`.
+class AlwaysEqual : public CKRMCAttribute {
+public:
+    using CKRMCAttribute::CKRMCAttribute;
+    bool CompareValue(CKRMError* error, CKRMCAttribute*) override {
+        error->SetErrorCode(code);
+        return true;
+    }
+    krm_ulong code = 0;
+};
+
+/// Finds nothing, and says that this is an error.
+class FailingLookup : public OwnElement {
+public:
+    using OwnElement::OwnElement;
+    CKRMCAttribute* GetAttribute(CKRMError* error, const char*) override {
+        error->SetErrorCode(77);
+        return GetFirstAttribute();
+    }
+};
+
+TEST(ElementGroup, SearchesThroughTheElementsOwnOperations) {
+    CKRMError error;
+    CKRMCAttribute probe("A", krm_long(1));
+    OwnGroup group("G");
+    auto* const failing = new FailingLookup("G");
+    group.Adopt(failing);
+    failing->Adopt(new AlwaysEqual("A"));
+    EXPECT_EQ(nullptr, group.GetElementByAttribute(&error, &probe));
+    EXPECT_EQ(77u, error.a_ulReturnCode);
+
+    auto* const element = new OwnElement("G");
+    group.Adopt(element);
+    auto* const equal = new AlwaysEqual("A");
+    element->Adopt(equal);
+    EXPECT_EQ(element, group.GetElementByAttribute(&error, &probe));
+    EXPECT_EQ(0u, error.a_ulReturnCode);
+    equal->code = 78;
+    EXPECT_EQ(nullptr, group.GetElementByAttribute(&error, &probe)) << "equal, but with an error";
+    EXPECT_EQ(78u, error.a_ulReturnCode);
+}
+
+TEST(Element, WithoutMemoryNothingIsAdded) {
+    KRM_SKIP_WITHOUT_FAILING_ALLOCATIONS();
+    CKRMCElement element("E");
+    CKRMCElementGroup longNamed(kLongName);
+    const auto expectOutOfMemory = [](int successes, auto create) {
+        CKRMError error;
+        const long before = LivingBlocks();
+        const void* created = &error;
+        const void* silently = &error;
+        {
+            const FailAllocations failing(successes);
+            created = create(&error);
+        }
+        {
+            const FailAllocations failing(successes);
+            silently = create(nullptr);
+        }
+        EXPECT_EQ(nullptr, created);
+        EXPECT_EQ(nullptr, silently);
+        EXPECT_EQ(2100100002u, error.a_ulReturnCode);
+        EXPECT_EQ(before, LivingBlocks());
+    };
+    expectOutOfMemory(0, [&](CKRMError* error) { return element.CreateAttribute(error, "A"); });
+    expectOutOfMemory(1, [&](CKRMError* error) { return element.CreateAttribute(error, kLongName); });
+    expectOutOfMemory(0, [&](CKRMError* error) { return element.CreateElementGroup(error, "A"); });
+    expectOutOfMemory(1, [&](CKRMError* error) { return element.CreateElementGroup(error, kLongName); });
+    expectOutOfMemory(0, [&](CKRMError* error) { return element.CreateElement(error, "A"); });
+    expectOutOfMemory(0, [&](CKRMError* error) { return longNamed.CreateElement(error); });
+    expectOutOfMemory(1, [&](CKRMError* error) { return longNamed.CreateElement(error); });
+    EXPECT_EQ("<E>\n</E>\n", Described(element));
+    EXPECT_EQ(nullptr, element.GetFirstGroup());
+
+    CKRMError error;
+    CKRMCElement* child = &element;
+    {
+        const FailAllocations failing(1);
+        child = element.CreateElement(&error, "A");
+    }
+    EXPECT_EQ(nullptr, child);
+    EXPECT_EQ(2100100002u, error.a_ulReturnCode);
+    EXPECT_THAT(NamesFrom(element.GetFirstGroup()), ElementsAre("A")) << "the new group stays, empty";
+    EXPECT_EQ("<E>\n</E>\n", Described(element));
+}
+
+TEST(Element, ACopySharesAttributesAndChildren) {
+    OwnElement original("E");
+    CKRMCAttribute* const attribute = original.CreateAttribute(nullptr, "A");
+    CKRMCElement* const child = original.CreateElement(nullptr, "C");
+    Undestroyed<OwnElement> copy(original);
+    Undestroyed<OwnElement> assigned("Z");
+    *assigned = original;
+    for (OwnElement* const each : {&*copy, &*assigned}) {
+        EXPECT_STREQ("E", each->GetName());
+        EXPECT_EQ(2u, each->GetKind());
+        EXPECT_EQ(attribute, each->GetFirstAttribute());
+        EXPECT_EQ(attribute, each->LastAttribute());
+        EXPECT_EQ(original.GetFirstGroup(), each->GetFirstGroup());
+        EXPECT_EQ(original.LastGroup(), each->LastGroup());
+        EXPECT_EQ(child, each->GetFirstElement(nullptr, "C"));
+        EXPECT_EQ("<E A[0]=\"NULL\">\n<C>\n</C>\n</E>\n", Described(*each));
+    }
+    EXPECT_EQ(&original, attribute->GetParent());
+}
+
+TEST(ElementGroup, ACopySharesElements) {
+    OwnGroup original("G");
+    CKRMCElement* const child = original.CreateElement(nullptr);
+    Undestroyed<OwnGroup> copy(original);
+    Undestroyed<OwnGroup> assigned("Z");
+    *assigned = original;
+    for (OwnGroup* const each : {&*copy, &*assigned}) {
+        EXPECT_STREQ("G", each->GetName());
+        EXPECT_EQ(child, each->GetFirstElement(nullptr));
+        EXPECT_EQ(child, each->LastElement());
+    }
+}
+
+TEST(Element, ACopyOfAnEmptyOneStandsAlone) {
+    const CKRMCElement original("E");
+    CKRMCElement copy(original);
+    EXPECT_NE(nullptr, copy.CreateElement(nullptr, "C"));
+    EXPECT_EQ(nullptr, original.GetFirstGroup());
+}
+
+constexpr int kMillion = 1'000'000;
+
+TEST(LargeTree, AMillionAttributes) {
+    RunOnSmallStack([] {
+        NoLookup element("E");
+        for (int i = 0; i < kMillion; ++i) {
+            element.CreateAttribute(nullptr, "A")->SetValue(nullptr, krm_long(1'000'000 + i % 10));
+        }
+        CKRMString text;
+        EXPECT_EQ(0u, element.Description(text));
+        EXPECT_EQ(std::string("<E>\n</E>\n").size() + kMillion * std::string(" A[3]=\"1000000\"").size(),
+                  text.GetLength());
+        EXPECT_EQ(0, std::string(text.GetText()).compare(0, 34, "<E A[3]=\"1000000\" A[3]=\"1000001\" A", 34));
+        element.RemoveAll();
+        EXPECT_EQ(nullptr, element.GetFirstAttribute());
+    });
+}
+
+TEST(LargeTree, AMillionElementsInOneGroup) {
+    RunOnSmallStack([] {
+        CKRMCElement element("E");
+        CKRMCElementGroup* const group = element.CreateElementGroup(nullptr, "C");
+        for (int i = 0; i < kMillion; ++i) {
+            group->CreateElement(nullptr);
+        }
+        CKRMString text;
+        EXPECT_EQ(0u, element.Description(text));
+        EXPECT_EQ(std::string("<E>\n</E>\n").size() + kMillion * std::string("<C>\n</C>\n").size(), text.GetLength());
+    });
+}
+
+TEST(LargeTree, AMillionGroups) {
+    RunOnSmallStack([] {
+        NoLookup element("E");
+        for (int i = 0; i < kMillion; ++i) {
+            element.CreateElementGroup(nullptr, "C");
+        }
+        CKRMString text;
+        EXPECT_EQ(0u, element.Description(text));
+        EXPECT_STREQ("<E>\n</E>\n", text.GetText());
+    });
+}
+
+TEST(LargeTree, RemovingTheFirstOfAMillion) {
+    RunOnSmallStack([] {
+        Undestroyed<CKRMCElementGroup> group("C");
+        for (int i = 0; i < kMillion; ++i) {
+            group->CreateElement(nullptr);
+        }
+        EXPECT_TRUE(group->RemoveElement(nullptr, group->GetFirstElement(nullptr)));
+    });
+}
+
+TEST(LargeTree, NestedAHundredThousandDeep) {
+    constexpr int kDepth = 100'000;
+    RunOnSmallStack([] {
+        CKRMCElement root("E");
+        CKRMCElement* element = &root;
+        for (int i = 0; i < kDepth; ++i) {
+            element->CreateAttribute(nullptr, "A");
+            element = element->CreateElement(nullptr, "E");
+        }
+        CKRMString text;
+        EXPECT_EQ(0u, root.Description(text));
+        EXPECT_EQ(std::string("<E>\n</E>\n").size() * (kDepth + 1) + kDepth * std::string(" A[0]=\"NULL\"").size(),
+                  text.GetLength());
+        root.RemoveAll();
+        EXPECT_EQ("<E>\n</E>\n", Described(root));
+    });
+}
+
+}  // namespace
+}  // namespace krm::test

@@ -1,0 +1,123 @@
+// Nodes of a user's own for the tests of the tree: linked by hand, and telling when they are destroyed.
+#ifndef KRM_TESTS_TREE_OWN_NODES_H_
+#define KRM_TESTS_TREE_OWN_NODES_H_
+
+#include <cstdint>
+#include <cstring>
+#include <new>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "krm/tree/attribute.h"
+#include "krm/tree/element.h"
+#include "krm/tree/element_group.h"
+
+namespace krm::test {
+
+/// Links nodes as a derived class may.
+struct Link : CKRMCNode {
+    static void Between(CKRMCNode& before, CKRMCNode& after) {
+        before.*(&Link::m_pcNext) = &after;
+        after.*(&Link::m_pcPrev) = &before;
+        after.*(&Link::m_pcParent) = before.GetParent();
+    }
+    static void Cut(CKRMCNode& before) { before.*(&Link::m_pcNext) = nullptr; }
+    static void ToParent(CKRMCNode& node, CKRMCNode& parent) { node.*(&Link::m_pcParent) = &parent; }
+};
+
+inline std::string Described(CKRMCNode& node) {
+    CKRMString text;
+    node.Description(text);
+    return text.GetText();
+}
+
+/// An object that is never destroyed: where a copy shares what its original frees, or where a chain leads to freed nodes.
+template <class T>
+class Undestroyed {
+public:
+    template <class... Arguments>
+    explicit Undestroyed(Arguments&&... arguments)
+        : m_object(new (m_storage) T(std::forward<Arguments>(arguments)...)) {}
+    Undestroyed(const Undestroyed&) = delete;
+    Undestroyed& operator=(const Undestroyed&) = delete;
+
+    T& operator*() { return *m_object; }
+    T* operator->() { return m_object; }
+
+private:
+    alignas(T) unsigned char m_storage[sizeof(T)];
+    T* m_object;
+};
+
+/// An attribute, element or group that writes its name down when it is destroyed, with the neighbours it still has then.
+template <class Node>
+class Mortal : public Node {
+public:
+    Mortal(const char* name, std::vector<std::string>& destroyed) : Node(name), m_destroyed(destroyed) {}
+    ~Mortal() override {
+        m_destroyed.push_back(std::string(this->GetName()) + (this->GetPrev() != nullptr ? " prev" : "") +
+                              (this->GetNext() != nullptr ? " next" : ""));
+    }
+
+private:
+    std::vector<std::string>& m_destroyed;
+};
+
+/// An element that takes nodes of a user's own.
+class OwnElement : public CKRMCElement {
+public:
+    using CKRMCElement::CKRMCElement;
+    void Adopt(CKRMCAttribute* attribute) { Append(m_pcFirstAttribute, m_pcLastAttribute, attribute); }
+    void Adopt(CKRMCElementGroup* group) { Append(m_pcFirstGroup, m_pcLastGroup, group); }
+    CKRMCAttribute* LastAttribute() const { return m_pcLastAttribute; }
+    CKRMCElementGroup* LastGroup() const { return m_pcLastGroup; }
+
+private:
+    template <class T>
+    void Append(T*& head, T*& tail, T* node) {
+        Link::ToParent(*node, *this);
+        if (tail != nullptr) {
+            Link::Between(*tail, *node);
+        } else {
+            head = node;
+        }
+        tail = node;
+    }
+};
+
+/// A group that takes elements of a user's own.
+class OwnGroup : public CKRMCElementGroup {
+public:
+    using CKRMCElementGroup::CKRMCElementGroup;
+    void Adopt(CKRMCElement* element) {
+        Link::ToParent(*element, *this);
+        if (m_pcLastElement != nullptr) {
+            Link::Between(*m_pcLastElement, *element);
+        } else {
+            m_pcFirstElement = element;
+        }
+        m_pcLastElement = element;
+    }
+    CKRMCElement* LastElement() const { return m_pcLastElement; }
+};
+
+/// The address as a number: the address of a destroyed object may be compared like this only.
+inline std::uintptr_t AddressOf(const void* object) {
+    return reinterpret_cast<std::uintptr_t>(object);
+}
+
+#if defined(__GNUC__)
+/// The slot of a virtual operation, where the compiler follows the Itanium ABI: there a pointer to it holds 1 plus the
+/// slot's offset. The two slots of a destructor come first.
+template <class Operation>
+std::size_t SlotOf(Operation operation) {
+    std::uintptr_t word = 0;
+    std::memcpy(&word, &operation, sizeof word);
+    return static_cast<std::size_t>(word - 1) / sizeof(void*);
+}
+#endif
+
+}  // namespace krm::test
+
+#endif  // KRM_TESTS_TREE_OWN_NODES_H_
