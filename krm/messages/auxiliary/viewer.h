@@ -5,8 +5,8 @@
 // commands are about. What the values mean, and which ones are valid, is between viewer and engine: the library stores
 // and copies them unchanged.
 //
-// Four classes are named with `VdcAdpt` where the others have `VdcAdapt`. They are exported under these names; it is
-// too late to correct them.
+// Four classes have `VdcAdpt` in their names where the others have `VdcAdapt`. That is no slip: they are exported under
+// exactly these names.
 #ifndef KRM_MESSAGES_AUXILIARY_VIEWER_H_
 #define KRM_MESSAGES_AUXILIARY_VIEWER_H_
 

@@ -11,9 +11,9 @@ CKRMCCreateDiagWordsTableDwtAdaptDataRcv::~CKRMCCreateDiagWordsTableDwtAdaptData
 
 krm_long CKRMCCreateDiagWordsTableDwtAdaptDataSnd::ErrWriteOperationLog() {
     const auto line = krm::BeginDump(*this, "CKRMCCreateDiagWordsTableDwtAdaptDataSnd::ErrWriteOperationLog");
-    line.ForEach(Data, [](const auto& each, auto& item) {
-        each("[%s] Data[%d].m_ushIdType=%d", item.m_ushIdType);
-        each("[%s] Data[%d].m_strValue=%s", item.m_strValue);
+    line.ForEach(Data, [](const auto& itemLine, auto& item) {
+        itemLine("[%s] Data[%d].m_ushIdType=%d", item.m_ushIdType);
+        itemLine("[%s] Data[%d].m_strValue=%s", item.m_strValue);
     });
     return 0;
 }
@@ -26,9 +26,9 @@ krm_long CKRMCGetTranslationStringDwtAdaptDataSnd::ErrWriteOperationLog() {
 
 krm_long CKRMCGetTranslationStringDwtAdaptDataRcv::ErrWriteOperationLog() {
     const auto line = krm::BeginDump(*this, "CKRMCGetTranslationStringDwtAdaptDataRcv::ErrWriteOperationLog");
-    line.ForEach(m_cTranslationStringDataList, [](const auto& each, auto& item) {
-        each("[%s] m_cTranslationStringDataList[%d].ID=%d", item.m_ulId);
-        each("[%s] m_cTranslationStringDataList[%d].String=%s", item.m_strString);
+    line.ForEach(m_cTranslationStringDataList, [](const auto& itemLine, auto& item) {
+        itemLine("[%s] m_cTranslationStringDataList[%d].ID=%d", item.m_ulId);
+        itemLine("[%s] m_cTranslationStringDataList[%d].String=%s", item.m_strString);
     });
     return 0;
 }

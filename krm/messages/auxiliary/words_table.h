@@ -1,4 +1,4 @@
-// The table of words that the engine builds, and the texts of word IDs from it: the words table family (`Dwt`, command
+// The table of words that the engine builds, and the texts of words IDs from it: the words table family (`Dwt`, command
 // type 14).
 //
 // The records are plain structures but for their virtual destructor; the messages that carry them write their fields
@@ -21,13 +21,13 @@ public:
 };
 extern template class CKRMList<CKRMCDiagWordsTableCreationData>;
 
-/// A word ID and its text in the user's language. The log prints the fields as `ID` and `String`.
+/// A words ID and its text in the user's language. The log prints the fields as `ID` and `String`.
 class KRM_API CKRMCDiagWordsTableTranslationStringData {
 public:
     virtual ~CKRMCDiagWordsTableTranslationStringData();
     void Clear() { *this = CKRMCDiagWordsTableTranslationStringData(); }
 
-    krm_ulong m_ulId = 0;    ///< word ID
+    krm_ulong m_ulId = 0;    ///< words ID
     CKRMString m_strString;  ///< its text
 };
 extern template class CKRMList<CKRMCDiagWordsTableTranslationStringData>;
@@ -50,14 +50,14 @@ public:
     ~CKRMCCreateDiagWordsTableDwtAdaptDataRcv() override;
 };
 
-/// Asks for the texts of word IDs.
+/// Asks for the texts of words IDs.
 class KRM_API CKRMCGetTranslationStringDwtAdaptDataSnd
     : public MessageOf<CKRMCGetTranslationStringDwtAdaptDataSnd, CKRMCBaseDwtAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::WordsTable, "GetTranslationString")> {
 public:
     krm_long ErrWriteOperationLog() override;
 
-    CKRMList<krm_ulong> m_ulIdList;  ///< the word IDs
+    CKRMList<krm_ulong> m_ulIdList;  ///< the words IDs
 };
 
 /// The texts.
@@ -67,7 +67,7 @@ class KRM_API CKRMCGetTranslationStringDwtAdaptDataRcv
 public:
     krm_long ErrWriteOperationLog() override;
 
-    CKRMList<CKRMCDiagWordsTableTranslationStringData> m_cTranslationStringDataList;  ///< word IDs with their texts
+    CKRMList<CKRMCDiagWordsTableTranslationStringData> m_cTranslationStringDataList;  ///< words IDs with their texts
 };
 
 #endif  // KRM_MESSAGES_AUXILIARY_WORDS_TABLE_H_
