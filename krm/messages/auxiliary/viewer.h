@@ -1,0 +1,128 @@
+// Help, resources and settings of the viewer: the viewer data control family (`Vdc`, command type 2). Nothing of it is
+// written to the operation log.
+//
+// The interface fixes types, order and defaults of the fields, but gives them no names; the names here say what the
+// commands are about. What the values mean, and which ones are valid, is between viewer and engine: the library stores
+// and copies them unchanged.
+//
+// Four classes have `VdcAdpt` in their names where the others have `VdcAdapt`. That is no slip: they are exported under
+// exactly these names.
+#ifndef KRM_MESSAGES_AUXILIARY_VIEWER_H_
+#define KRM_MESSAGES_AUXILIARY_VIEWER_H_
+
+#include "krm/core/list.h"
+#include "krm/framework/message.h"
+#include "krm/platform/platform.h"
+
+/// One piece of help. A plain structure.
+class KRM_API CKRMCDbHelpInfo {
+public:
+    void Clear() { *this = CKRMCDbHelpInfo(); }
+
+    unsigned char m_uchHelpType = 0;   ///< kind of help; the codes are the engine's
+    unsigned char m_uchHelpIndex = 0;  ///< place of this piece; its meaning is the engine's
+    CKRMString m_strHelpInfo;          ///< the help itself, or where to find it: the engine's choice
+};
+extern template class CKRMList<CKRMCDbHelpInfo>;
+
+/// Asks for the viewer's data control to be created.
+class KRM_API CKRMCCreateViewerDataCtrlVdcAdaptDataSnd
+    : public MessageOf<CKRMCCreateViewerDataCtrlVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd,
+                       krm::CommandId(krm::CommandFamily::Viewer, "CreateViewerDataCtrl")> {
+public:
+    ~CKRMCCreateViewerDataCtrlVdcAdaptDataSnd() override;
+
+    CKRMString m_strDataName;  ///< which data to control; its meaning is the engine's
+    CKRMString m_strLanguage;  ///< language to show it in; its meaning is the engine's
+};
+
+/// The data control is created.
+class KRM_API CKRMCCreateViewerDataCtrlVdcAdaptDataRcv
+    : public MessageOf<CKRMCCreateViewerDataCtrlVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv,
+                       krm::CommandId(krm::CommandFamily::Viewer, "CreateViewerDataCtrl")> {
+public:
+    ~CKRMCCreateViewerDataCtrlVdcAdaptDataRcv() override;
+};
+
+/// Asks for help.
+class KRM_API CKRMCGetHelpInfoVdcAdptDataSnd
+    : public MessageOf<CKRMCGetHelpInfoVdcAdptDataSnd, CKRMCBaseVdcAdaptDataSnd,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetHelpInfo")> {
+public:
+    ~CKRMCGetHelpInfoVdcAdptDataSnd() override;
+
+    krm_ulong m_ulHelpId = 0;  ///< help asked for, as in the help IDs of other messages
+};
+
+/// The help.
+class KRM_API CKRMCGetHelpInfoVdcAdptDataRcv
+    : public MessageOf<CKRMCGetHelpInfoVdcAdptDataRcv, CKRMCBaseVdcAdaptDataRcv,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetHelpInfo")> {
+public:
+    ~CKRMCGetHelpInfoVdcAdptDataRcv() override;
+
+    CKRMList<CKRMCDbHelpInfo> Data;  ///< the pieces of the help
+};
+
+/// Asks for resources of the viewer on the PC.
+class KRM_API CKRMCGetPcViewerResourceVdcAdptDataSnd
+    : public MessageOf<CKRMCGetPcViewerResourceVdcAdptDataSnd, CKRMCBaseVdcAdaptDataSnd,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetPcViewerResource")> {
+public:
+    ~CKRMCGetPcViewerResourceVdcAdptDataSnd() override;
+
+    krm_ulong m_ulResourceType = 1;  ///< kind of resource; 1, not 0, unless set. The codes are the engine's
+    CKRMString m_strResourceName;    ///< resource asked for; its meaning is the engine's
+    CKRMString m_strLanguage;        ///< language of the resource; its meaning is the engine's
+};
+
+/// The resources.
+class KRM_API CKRMCGetPcViewerResourceVdcAdptDataRcv
+    : public MessageOf<CKRMCGetPcViewerResourceVdcAdptDataRcv, CKRMCBaseVdcAdaptDataRcv,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetPcViewerResource")> {
+public:
+    ~CKRMCGetPcViewerResourceVdcAdptDataRcv() override;
+
+    CKRMString m_strResourceName;                    ///< resource answered; its meaning is the engine's
+    CKRMMap<CKRMString, CKRMString> m_cResourceMap;  ///< the resource's entries by key
+};
+
+/// Asks which data to hide.
+class KRM_API CKRMCGetHideAllDataVdcAdaptDataSnd
+    : public MessageOf<CKRMCGetHideAllDataVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetHideAllData")> {
+public:
+    ~CKRMCGetHideAllDataVdcAdaptDataSnd() override;
+};
+
+/// The data to hide.
+class KRM_API CKRMCGetHideAllDataVdcAdaptDataRcv
+    : public MessageOf<CKRMCGetHideAllDataVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetHideAllData")> {
+public:
+    ~CKRMCGetHideAllDataVdcAdaptDataRcv() override;
+
+    CKRMList<unsigned short> m_ushHideDataList;  ///< IDs of the data to hide; their meaning is the engine's
+};
+
+/// Asks for the viewer's security level.
+class KRM_API CKRMCGetSecurityLevelVdcAdaptDataSnd
+    : public MessageOf<CKRMCGetSecurityLevelVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetSecurityLevel")> {
+public:
+    ~CKRMCGetSecurityLevelVdcAdaptDataSnd() override;
+
+    CKRMString m_strTarget;  ///< what, or who, the level is asked for; its meaning is the engine's
+};
+
+/// The viewer's security level: an ordinary setting, carried as data.
+class KRM_API CKRMCGetSecurityLevelVdcAdaptDataRcv
+    : public MessageOf<CKRMCGetSecurityLevelVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv,
+                       krm::CommandId(krm::CommandFamily::Viewer, "GetSecurityLevel")> {
+public:
+    ~CKRMCGetSecurityLevelVdcAdaptDataRcv() override;
+
+    krm_ulong m_ulSecurityLevel = 0;  ///< the level; the scale is the engine's
+};
+
+#endif  // KRM_MESSAGES_AUXILIARY_VIEWER_H_

@@ -1,0 +1,141 @@
+#include "krm/messages/auxiliary/viewer.h"
+
+#include <gtest/gtest.h>
+
+#include <type_traits>
+
+#include "tests/messages/auxiliary/viewer_fields.h"
+#include "tests/support/fields.h"
+
+namespace {
+
+using krm::test::Described;
+using krm::test::Fill;
+using krm::test::IsZero;
+using krm::test::Seed;
+
+static_assert(!std::is_polymorphic_v<CKRMCDbHelpInfo>, "a piece of help is a plain structure");
+
+template <class T>
+concept HasDump = requires(T& it) {
+    it.ErrWriteOperationLog();
+}
+|| requires(T& it) {
+    it.ER_WriteOperationLogFormat("");
+};
+static_assert(HasDump<CKRMCBaseUccAdaptData>, "the check would find a dump where there is one");
+
+template <class T>
+class ViewerMessage : public testing::Test {};
+using Messages = testing::Types<CKRMCCreateViewerDataCtrlVdcAdaptDataSnd, CKRMCCreateViewerDataCtrlVdcAdaptDataRcv,
+                                CKRMCGetHelpInfoVdcAdptDataSnd, CKRMCGetHelpInfoVdcAdptDataRcv,
+                                CKRMCGetPcViewerResourceVdcAdptDataSnd, CKRMCGetPcViewerResourceVdcAdptDataRcv,
+                                CKRMCGetHideAllDataVdcAdaptDataSnd, CKRMCGetHideAllDataVdcAdaptDataRcv,
+                                CKRMCGetSecurityLevelVdcAdaptDataSnd, CKRMCGetSecurityLevelVdcAdaptDataRcv>;
+TYPED_TEST_SUITE(ViewerMessage, Messages);
+
+TYPED_TEST(ViewerMessage, HasNoDump) {
+    EXPECT_FALSE(HasDump<TypeParam>);
+}
+
+TYPED_TEST(ViewerMessage, ReturnsToItsStartByClear) {
+    TypeParam message;
+    EXPECT_EQ(message.GetCommandType(), 2U);
+    const std::string fresh = Described(message);
+    Seed seed(632);
+    Fill(message, seed);
+    message.SetCommandType(0);
+    message.SetCommandID(99);
+    message.Clear();
+    EXPECT_EQ(Described(message), fresh);
+}
+
+TEST(Viewer, EachCommandHasItsId) {
+    EXPECT_EQ(CKRMCCreateViewerDataCtrlVdcAdaptDataSnd().GetCommandID(), 1U);
+    EXPECT_EQ(CKRMCCreateViewerDataCtrlVdcAdaptDataRcv().GetCommandID(), 1U);
+    EXPECT_EQ(CKRMCGetHelpInfoVdcAdptDataSnd().GetCommandID(), 2U);
+    EXPECT_EQ(CKRMCGetHelpInfoVdcAdptDataRcv().GetCommandID(), 2U);
+    EXPECT_EQ(CKRMCGetPcViewerResourceVdcAdptDataSnd().GetCommandID(), 3U);
+    EXPECT_EQ(CKRMCGetPcViewerResourceVdcAdptDataRcv().GetCommandID(), 3U);
+    EXPECT_EQ(CKRMCGetHideAllDataVdcAdaptDataSnd().GetCommandID(), 4U);
+    EXPECT_EQ(CKRMCGetHideAllDataVdcAdaptDataRcv().GetCommandID(), 4U);
+    EXPECT_EQ(CKRMCGetSecurityLevelVdcAdaptDataSnd().GetCommandID(), 5U);
+    EXPECT_EQ(CKRMCGetSecurityLevelVdcAdaptDataRcv().GetCommandID(), 5U);
+}
+
+TEST(Viewer, RequestsStartWithTheBasesNumberAtZeroAndKeepItInCopies) {
+    CKRMCGetHideAllDataVdcAdaptDataSnd request;
+    EXPECT_EQ(request.m_ulVdcSndValue, 0U);
+    request.m_ulVdcSndValue = 4294967295U;
+    const CKRMCGetHideAllDataVdcAdaptDataSnd copy(request);
+    EXPECT_EQ(copy.m_ulVdcSndValue, 4294967295U);
+    request.Clear();
+    EXPECT_EQ(request.m_ulVdcSndValue, 0U);
+}
+
+TEST(Viewer, ResourceTypeIsOneUnlessSet) {
+    CKRMCGetPcViewerResourceVdcAdptDataSnd request;
+    EXPECT_EQ(request.GetCommandType(), 2U);
+    EXPECT_EQ(request.GetCommandID(), 3U);
+    EXPECT_EQ(request.m_ulResourceType, 1U);
+    EXPECT_TRUE(IsZero(request.m_strResourceName));
+    EXPECT_TRUE(IsZero(request.m_strLanguage));
+    request.m_ulResourceType = 0;
+    request.Clear();
+    EXPECT_EQ(request.m_ulResourceType, 1U);
+}
+
+TEST(Viewer, EverythingElseStartsAtZeroAndEmpty) {
+    CKRMCCreateViewerDataCtrlVdcAdaptDataSnd create;
+    EXPECT_TRUE(IsZero(create));
+    CKRMCGetHelpInfoVdcAdptDataSnd helpRequest;
+    EXPECT_TRUE(IsZero(helpRequest));
+    CKRMCGetHelpInfoVdcAdptDataRcv help;
+    EXPECT_TRUE(IsZero(help));
+    CKRMCGetPcViewerResourceVdcAdptDataRcv resource;
+    EXPECT_TRUE(IsZero(resource));
+    CKRMCGetHideAllDataVdcAdaptDataRcv hide;
+    EXPECT_TRUE(IsZero(hide));
+    CKRMCGetSecurityLevelVdcAdaptDataSnd levelRequest;
+    EXPECT_TRUE(IsZero(levelRequest));
+    CKRMCGetSecurityLevelVdcAdaptDataRcv level;
+    EXPECT_TRUE(IsZero(level));
+    CKRMCDbHelpInfo info;
+    EXPECT_TRUE(IsZero(info));
+    Seed seed(633);
+    Fill(info, seed);
+    info.Clear();
+    EXPECT_TRUE(IsZero(info));
+}
+
+TEST(Viewer, ACopyOwnsItsResourceMap) {
+    CKRMCGetPcViewerResourceVdcAdptDataRcv source;
+    source.m_strResourceName = "menu";
+    source.m_cResourceMap.SetAt("title", "Freeze frames");
+    CKRMCGetPcViewerResourceVdcAdptDataRcv copy(source);
+    EXPECT_EQ(Described(copy), Described(source));
+    copy.m_cResourceMap.SetAt("title", "changed");
+    copy.m_cResourceMap.SetAt("more", "");
+    CKRMString title;
+    ASSERT_TRUE(source.m_cResourceMap.Lookup("title", title));
+    EXPECT_EQ(title.Compare("Freeze frames"), 0);
+    EXPECT_EQ(source.m_cResourceMap.GetCount(), 1);
+    copy.Clear();
+    EXPECT_EQ(copy.m_cResourceMap.GetCount(), 0);
+    EXPECT_EQ(source.m_cResourceMap.GetCount(), 1);
+}
+
+TEST(Viewer, ACopyOwnsItsHelp) {
+    CKRMCGetHelpInfoVdcAdptDataRcv source;
+    Seed seed(634);
+    Fill(source, seed);
+    const std::string before = Described(source);
+    CKRMCGetHelpInfoVdcAdptDataRcv copy;
+    copy = source;
+    EXPECT_EQ(Described(copy), before);
+    copy.Data[1].m_strHelpInfo = "changed";
+    copy.Data.RemoveAt(0);
+    EXPECT_EQ(Described(source), before);
+}
+
+}  // namespace
