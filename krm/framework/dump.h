@@ -29,7 +29,9 @@ namespace krm {
 enum class FieldKind { Number, Real, Text, Record, RecordList, NumberList };
 
 template <class T>
-struct ListElement {};
+struct ListElement {
+    using Type = void;
+};
 template <class T>
 struct ListElement<CKRMList<T>> {
     using Type = T;
@@ -177,8 +179,8 @@ public:
     }
 
     /// Calls `write(line, element)` for each element of `list`, with lines that have the element's index added.
-    template <class T, class Write>
-    void ForEach(CKRMList<T>& list, Write write) const {
+    template <class T, class Function>
+    void ForEach(CKRMList<T>& list, Function write) const {
         std::array<int, Depth + 1> indices{};
         for (int i = 0; i < Depth; ++i) {
             indices[static_cast<std::size_t>(i)] = m_indices[static_cast<std::size_t>(i)];
