@@ -5,8 +5,8 @@
 //     line("%s.m_cTripTime", m_cTripTime);           // an embedded record: its own lines under this prefix
 //     line("%s.m_cEcuList[%d]", m_cEcuList);         // a list of records: each element's lines
 //     line("[%s] m_uchSSRNo[%d]=%d", m_uchSSRNo);    // a list of numbers: a line each
-//     line.ForEach(Data, [](const auto& line, auto& item) {        // elements whose fields the holder writes:
-//         line("[%s] Data[%d].m_ushId=%d", item.m_ushId);          // one index more per level
+//     line.ForEach(Data, [](const auto& itemLine, auto& item) {    // elements whose fields the holder writes:
+//         itemLine("[%s] Data[%d].m_ushId=%d", item.m_ushId);      // one index more per level
 //     });
 //
 // Every literal is checked while compiling against the types of its fields and the number of indices.
@@ -66,6 +66,7 @@ void TheLineMustBeginWithItsPrefixPlaceholder();
 void TheLineMustHaveOneIndexInBracketsPerLevelAndList();
 void TheConversionDoesNotFitTheField();
 void TheLineHasAConversionTooMany();
+void ARecordWritesItsOwnValues();
 
 /// Takes "%s", "[%s]" off the front of `text`. Constexpr, not consteval: Clang 14 refuses a consteval helper here.
 constexpr void SkipPrefix(std::string_view& text) {
@@ -124,6 +125,8 @@ constexpr void CheckLine(std::string_view text, int indices, const FieldKind* ki
         }
         if (kinds[i] != FieldKind::Record && kinds[i] != FieldKind::RecordList) {
             SkipValue(text, kinds[i]);
+        } else if (text.find('=') != std::string_view::npos) {
+            ARecordWritesItsOwnValues();
         }
     }
     if (text.find('%') != std::string_view::npos) {
