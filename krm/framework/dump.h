@@ -29,7 +29,9 @@ namespace krm {
 enum class FieldKind { Number, Real, Text, Record, RecordList, NumberList };
 
 template <class T>
-struct ListElement {};
+struct ListElement {
+    using Type = void;
+};
 template <class T>
 struct ListElement<CKRMList<T>> {
     using Type = T;
@@ -64,6 +66,7 @@ void TheLineMustBeginWithItsPrefixPlaceholder();
 void TheLineMustHaveOneIndexInBracketsPerLevelAndList();
 void TheConversionDoesNotFitTheField();
 void TheLineHasAConversionTooMany();
+void ARecordWritesItsOwnValues();
 
 /// Takes "%s", "[%s]" off the front of `text`. Constexpr, not consteval: Clang 14 refuses a consteval helper here.
 constexpr void SkipPrefix(std::string_view& text) {
@@ -122,6 +125,8 @@ constexpr void CheckLine(std::string_view text, int indices, const FieldKind* ki
         }
         if (kinds[i] != FieldKind::Record && kinds[i] != FieldKind::RecordList) {
             SkipValue(text, kinds[i]);
+        } else if (text.find('=') != std::string_view::npos) {
+            ARecordWritesItsOwnValues();
         }
     }
     if (text.find('%') != std::string_view::npos) {
@@ -177,8 +182,8 @@ public:
     }
 
     /// Calls `write(elementLine, element)` for each element of `list`, with lines that have the element's index added.
-    template <class T, class Write>
-    void ForEach(CKRMList<T>& list, Write write) const {
+    template <class T, class Function>
+    void ForEach(CKRMList<T>& list, Function write) const {
         std::array<int, Depth + 1> indices{};
         for (int i = 0; i < Depth; ++i) {
             indices[static_cast<std::size_t>(i)] = m_indices[static_cast<std::size_t>(i)];

@@ -222,10 +222,36 @@ public:
     static constexpr krm_ulong kCommandId = id;
 
     /// Restores type, ID, the base's member and every field to what the constructor sets.
-    void Clear() override { static_cast<Message&>(*this) = Message(); }
+    void Clear() override {
+        static_cast<Message&>(*this) = Message();
+        // Not all families' constructors reset the imported base, but every Clear does.
+        Direction::Clear();
+        this->SetCommandID(id);
+    }
 
 protected:
     MessageOf() : Direction(id) {}
 };
+
+namespace krm {
+
+/// `message` as the class that the caller expects; null where it is null, carries another type or ID, or goes the other
+/// way (a request and its answer carry the same).
+///
+///     if (auto* answer = krm::MessageAs<CKRMCGetDTCCmdAdaptDataRcv>(message)) ...
+template <class Message>
+const Message* MessageAs(const CKRMBaseAdaptationData* message) {
+    if (message == nullptr || message->GetCommandType() != Message::kCommandType ||
+        message->GetCommandID() != Message::kCommandId) {
+        return nullptr;
+    }
+    return dynamic_cast<const Message*>(message);
+}
+template <class Message>
+Message* MessageAs(CKRMBaseAdaptationData* message) {
+    return const_cast<Message*>(MessageAs<Message>(static_cast<const CKRMBaseAdaptationData*>(message)));
+}
+
+}  // namespace krm
 
 #endif  // KRM_FRAMEWORK_MESSAGE_H_

@@ -1,5 +1,6 @@
 #include "krm/platform/format.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <climits>
@@ -127,20 +128,29 @@ void AppendInteger(std::string& out, const Conversion& conversion, std::uintmax_
     if (conversion.alternative && base == 8 && leading == 0 && (digits.empty() || digits.front() != '0')) {
         leading = 1;
     }
+    const bool zeroFill = conversion.zero && conversion.precision < 0;
     if (leading == 0) {
-        AppendPadded(out, conversion, prefix, digits, conversion.zero && conversion.precision < 0);
+        AppendPadded(out, conversion, prefix, digits, zeroFill);
     } else {
-        AppendPadded(out, conversion, prefix, std::string(leading, '0').append(digits), false);
+        AppendPadded(out, conversion, prefix, std::string(leading, '0').append(digits), zeroFill);
     }
 }
 
-/// The digits of a finite magnitude as `letter` asks for them.
-std::string_view RealDigits(const Conversion& conversion, double magnitude, std::string& storage) {
-    // The largest double has 309 digits before the point.
-    const std::size_t decimals = conversion.precision > 0 ? static_cast<std::size_t>(conversion.precision) : 0;
-    storage.resize(330 + decimals);
-    char* const first = storage.data();
-    char* const end = first + storage.size();
+/// Writes a finite magnitude as '%#g' asks: the shape of '%g', with its trailing zeros. Returns the end.
+char* WriteGeneralWithZeros(char* first, char* end, double magnitude, int precision) {
+    const int significant = precision == 0 ? 1 : precision;
+    char* const last = std::to_chars(first, end, magnitude, std::chars_format::scientific, significant - 1).ptr;
+    const char* const mark = std::find(first, last, 'e');
+    int exponent = 0;
+    std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, last, exponent);
+    if (exponent < -4 || exponent >= significant) {
+        return last;
+    }
+    return std::to_chars(first, end, magnitude, std::chars_format::fixed, significant - 1 - exponent).ptr;
+}
+
+/// Writes a finite magnitude as the conversion's letter asks; returns the end.
+char* WriteReal(char* first, char* end, const Conversion& conversion, double magnitude) {
     const int precision = conversion.precision < 0 ? 6 : conversion.precision;
     char* last = first;
     switch (conversion.letter) {
@@ -159,13 +169,19 @@ std::string_view RealDigits(const Conversion& conversion, double magnitude, std:
                        : std::to_chars(first, end, magnitude, std::chars_format::hex, conversion.precision).ptr;
             break;
         default:
-            last = std::to_chars(first, end, magnitude, std::chars_format::general, precision).ptr;
+            last = conversion.alternative
+                       ? WriteGeneralWithZeros(first, end, magnitude, precision)
+                       : std::to_chars(first, end, magnitude, std::chars_format::general, precision).ptr;
             break;
     }
-    if (conversion.alternative && conversion.precision == 0 && (conversion.letter == 'f' || conversion.letter == 'F')) {
-        *last++ = '.';
+    if (conversion.alternative && std::find(first, last, '.') == last) {
+        const bool hexadecimal = conversion.letter == 'a' || conversion.letter == 'A';
+        char* const point = std::find(first, last, hexadecimal ? 'p' : 'e');
+        std::copy_backward(point, last, last + 1);
+        *point = '.';
+        ++last;
     }
-    return {first, static_cast<std::size_t>(last - first)};
+    return last;
 }
 
 void AppendReal(std::string& out, const Conversion& conversion, double value) {
@@ -176,15 +192,24 @@ void AppendReal(std::string& out, const Conversion& conversion, double value) {
         AppendPadded(out, conversion, sign, name, false);
         return;
     }
-    std::string storage;
-    const std::string_view digits = RealDigits(conversion, std::fabs(value), storage);
+    // The largest double has 309 digits before the point; that and the usual decimals fit without an allocation.
+    std::array<char, 384> usual;
+    std::string large;
+    char* first = usual.data();
+    std::size_t room = usual.size();
+    if (conversion.precision > 50) {
+        large.resize(room + static_cast<std::size_t>(conversion.precision));
+        first = large.data();
+        room = large.size();
+    }
+    char* const last = WriteReal(first, first + room, conversion, std::fabs(value));
     if (upper) {
-        ToUpper(storage.data(), storage.data() + digits.size());
+        ToUpper(first, last);
     }
     if (conversion.letter == 'a' || conversion.letter == 'A') {
         sign += upper ? "0X" : "0x";
     }
-    AppendPadded(out, conversion, sign, digits, conversion.zero);
+    AppendPadded(out, conversion, sign, {first, static_cast<std::size_t>(last - first)}, conversion.zero);
 }
 
 void AppendText(std::string& out, const Conversion& conversion, const char* text) {

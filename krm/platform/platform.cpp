@@ -1,6 +1,7 @@
 #include "krm/platform/platform.h"
 
 #include <cstdio>
+#include <string>
 #include <utility>
 
 #include "krm/platform/format.h"
@@ -102,8 +103,10 @@ void CKRMError::SetErrorCode(krm_ulong code) {
 namespace {
 
 krm_long WriteToStandardError(void*, const char* text, krm_ulong textLength, int, int) {
-    std::fwrite(text, 1, textLength, stderr);
-    std::fputc('\n', stderr);
+    // One write per line, so that the lines of two threads don't mix.
+    std::string line(text, textLength);
+    line += '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
     return 0;
 }
 

@@ -15,8 +15,8 @@
 
 /// A text of bytes. Copies are deep; an empty string allocates nothing.
 ///
-/// Its first data word is the address of the text and its second the length, as callers of the operation log's writer
-/// rely on.
+/// Its first data word is the address of the text and its second the length, in a build with GCC's standard library.
+/// Callers of the operation log's writer want just these two; they are better taken from GetText and GetLength.
 class KRM_PLATFORM_API CKRMString {
 public:
     /// An empty string.

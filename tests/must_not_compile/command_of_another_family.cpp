@@ -1,0 +1,4 @@
+// error: NoSuchCommandInTheTable
+#include "krm/framework/commands.h"
+
+static_assert(krm::CommandId(krm::CommandFamily::Viewer, "GetDTC") == 2);

@@ -1,0 +1,6 @@
+// error: ARecordWritesItsOwnValues
+#include "tests/must_not_compile/fixture.h"
+
+void Sample::Dump(const krm::RecordLines& line) {
+    line("%s.m_cPartList[%d]=%d", m_cPartList);
+}

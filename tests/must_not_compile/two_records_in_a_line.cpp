@@ -1,0 +1,6 @@
+// error: Passed
+#include "tests/must_not_compile/fixture.h"
+
+void Sample::Dump(const krm::RecordLines& line) {
+    line("%s.m_cPart", m_cPart, m_cPart);
+}

@@ -1,0 +1,6 @@
+// error: TheConversionDoesNotFitTheField
+#include "tests/must_not_compile/fixture.h"
+
+void Sample::Dump(const krm::RecordLines& line) {
+    line("%s.m_strName=%10s", m_strName);
+}

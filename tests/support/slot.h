@@ -1,0 +1,25 @@
+// The slot that a virtual operation has in the virtual table: slot orders are part of the interface.
+#ifndef KRM_TESTS_SUPPORT_SLOT_H_
+#define KRM_TESTS_SUPPORT_SLOT_H_
+
+#include <cstddef>
+#include <cstring>
+
+namespace krm::test {
+
+/// The index of a virtual operation in its class's virtual table, counted from 0; -1 for one that isn't virtual.
+///
+/// GCC's and Clang's pointer to a virtual member function holds one more than the slot's offset in bytes. Their virtual
+/// destructors take two slots, so the first operation behind a destructor has index 2.
+template <class PointerToMember>
+int SlotOf(PointerToMember operation) {
+    std::ptrdiff_t word = 0;
+    static_assert(sizeof operation >= sizeof word);
+    std::memcpy(&word, &operation, sizeof word);
+    const auto size = static_cast<std::ptrdiff_t>(sizeof(void*));
+    return word % size == 1 ? static_cast<int>((word - 1) / size) : -1;
+}
+
+}  // namespace krm::test
+
+#endif  // KRM_TESTS_SUPPORT_SLOT_H_
