@@ -117,8 +117,8 @@ private:
     }
 
     void AddAnswer(const IsoTpMessage& message) {
-        const std::string says = HexOfId(message.id) + " answers " + HexOf(std::span(message.bytes).first(
-                                                                         std::min<std::size_t>(message.bytes.size(), 3)));
+        const std::string says = HexOfId(message.id) + " answers " +
+                                 HexOf(std::span(message.bytes).first(std::min<std::size_t>(message.bytes.size(), 3)));
         if (m_exchanges.empty()) {
             m_complain(message.line, says + " before any request");
             return;
@@ -135,8 +135,8 @@ private:
         const bool again = std::any_of(exchange.answers.begin(), exchange.answers.end(),
                                        [&](const EcuAnswer& answer) { return answer.ecu == message.id; });
         if (again) {
-            m_complain(message.line, HexOfId(message.id) + " answers request " + HexOf(exchange.request) +
-                                         " a second time");
+            m_complain(message.line,
+                       HexOfId(message.id) + " answers request " + HexOf(exchange.request) + " a second time");
         }
         exchange.answers.push_back({message.line, message.id, message.bytes});
     }

@@ -73,8 +73,9 @@ void IsoTpAssembler::AddFirst(Sender& sender, const CanFrame& frame) {
     }
     const std::size_t length = (frame.data[0] & 0xFU) * std::size_t{256} + frame.data[1];
     if (length <= kSingleFrameBytes) {
-        GiveUp(sender, frame.line, HexOfId(frame.id) + " sends a first frame that promises " + Number(length) +
-                                       " bytes, which take a single frame");
+        GiveUp(sender, frame.line,
+               HexOfId(frame.id) + " sends a first frame that promises " + Number(length) +
+                   " bytes, which take a single frame");
         return;
     }
     sender.state = State::Receiving;
@@ -92,21 +93,24 @@ std::optional<IsoTpMessage> IsoTpAssembler::AddConsecutive(Sender& sender, const
         return std::nullopt;
     }
     if (sender.state == State::Complete) {
-        GiveUp(sender, frame.line, HexOfId(frame.id) + " sends more than the " + Number(sender.promised) +
-                                       " bytes that its first frame promised");
+        GiveUp(sender, frame.line,
+               HexOfId(frame.id) + " sends more than the " + Number(sender.promised) +
+                   " bytes that its first frame promised");
         return std::nullopt;
     }
     if (sequence != sender.nextSequence) {
-        GiveUp(sender, frame.line, HexOfId(frame.id) + " sends consecutive frame " + Number(sequence) + " where " +
-                                       Number(sender.nextSequence) + " is due");
+        GiveUp(sender, frame.line,
+               HexOfId(frame.id) + " sends consecutive frame " + Number(sequence) + " where " +
+                   Number(sender.nextSequence) + " is due");
         return std::nullopt;
     }
     Bytes& bytes = sender.message.bytes;
     const std::size_t missing = sender.promised - bytes.size();
     const std::size_t carried = frame.data.size() - 1;
     if (carried < std::min(missing, kSingleFrameBytes)) {
-        GiveUp(sender, frame.line, HexOfId(frame.id) + " sends a consecutive frame with " + Number(carried) +
-                                       " bytes where " + Number(std::min(missing, kSingleFrameBytes)) + " are due");
+        GiveUp(sender, frame.line,
+               HexOfId(frame.id) + " sends a consecutive frame with " + Number(carried) + " bytes where " +
+                   Number(std::min(missing, kSingleFrameBytes)) + " are due");
         return std::nullopt;
     }
     // What the last frame carries beyond the promised length is padding.
