@@ -394,7 +394,11 @@ void DiagnosisEngine::Answer(const CKRMCGetDataMonitorListCmdAdaptDataSnd& reque
             }
         }
     }
+    // The support data: the masks of PID 00, 20, ... one behind the other, as far as the ECU gave them without a gap.
     for (const auto& [pid, mask] : masks) {
+        if (pid / 0x20U * kSupportMaskLength != static_cast<std::size_t>(answer.m_uchA8SupportData.GetCount())) {
+            break;
+        }
         for (const unsigned shift : {24U, 16U, 8U, 0U}) {
             answer.m_uchA8SupportData.AddTail(static_cast<unsigned char>(mask >> shift & 0xFFU));
         }

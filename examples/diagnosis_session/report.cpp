@@ -61,6 +61,23 @@ void Report::AddVin(std::uint32_t ecu, const std::string& vin) {
     m_vehicle.push_back({"ECU " + HexOfId(ecu), "VIN", vin});
 }
 
+void Report::AddSupport(std::uint32_t ecu, const CKRMList<unsigned char>& mask) {
+    std::string pids;
+    std::uint8_t pid = 0;
+    for (const unsigned char byte : mask) {
+        for (unsigned bit = 0x80; bit != 0; bit >>= 1U) {
+            ++pid;
+            // PIDs 20, 40 ... only say that there is a further mask.
+            if ((byte & bit) != 0 && pid % 0x20 != 0) {
+                pids += (pids.empty() ? "" : " ") + HexOf({&pid, 1});
+            }
+        }
+    }
+    if (mask.GetCount() != 0) {
+        m_vehicle.push_back({"ECU " + HexOfId(ecu), "live data", pids});
+    }
+}
+
 void Report::AddTroubleCodes(std::uint32_t ecu, const std::string& kind, const CKRMCGetDTCCmdAdaptDataRcv& answer) {
     if (answer.Data.GetCount() == 0) {
         m_troubleCodes.push_back({"ECU " + HexOfId(ecu), kind, "none"});

@@ -17,6 +17,8 @@ class Report {
 public:
     void AddEcu(std::uint32_t ecu, bool connected, const std::string& description);
     void AddVin(std::uint32_t ecu, const std::string& vin);
+    /// Which PIDs of service 01 an ECU supports: a bit for each, beginning with PID 01.
+    void AddSupport(std::uint32_t ecu, const CKRMList<unsigned char>& mask);
     void AddTroubleCodes(std::uint32_t ecu, const std::string& kind, const CKRMCGetDTCCmdAdaptDataRcv& answer);
     /// Trouble codes were cleared, or `refusal` tells why not (0: they were).
     void AddClearing(std::uint32_t ecu, krm_ulong refusal);

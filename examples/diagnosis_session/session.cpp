@@ -205,6 +205,7 @@ void RunDataMonitor(DiagnosisEngine& engine, krm_ulong ecu, unsigned short monit
     listRequest.m_ulEcuId = ecu;
     CKRMCGetDataMonitorListCmdAdaptDataRcv list;
     Ask(engine, listRequest, list);
+    report.AddSupport(ecu, list.m_uchA8SupportData);
     if (list.Data.GetCount() == 0) {
         return;
     }
