@@ -38,7 +38,6 @@ public:
         return before;
     }
     friend bool operator==(const LineCounter& left, const LineCounter& right) { return left.m_at == right.m_at; }
-    friend bool operator!=(const LineCounter& left, const LineCounter& right) { return left.m_at != right.m_at; }
 
 private:
     const char* m_at;

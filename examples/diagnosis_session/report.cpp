@@ -1,6 +1,7 @@
 #include "report.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "hex.h"
 
@@ -83,8 +84,11 @@ void Report::AddTroubleCodes(std::uint32_t ecu, const std::string& kind, const C
         m_troubleCodes.push_back({"ECU " + HexOfId(ecu), kind, "none"});
     }
     for (const CKRMCCommandDTCData& code : answer.Data) {
-        m_troubleCodes.push_back({"ECU " + HexOfId(ecu), code.m_strDTCTypeName.GetText(), code.m_strDTC.GetText(),
-                                  code.m_strDTCName.GetText()});
+        Row row = {"ECU " + HexOfId(ecu), code.m_strDTCTypeName.GetText(), code.m_strDTC.GetText()};
+        if (code.m_strDTCName.GetLength() != 0) {
+            row.emplace_back(code.m_strDTCName.GetText());
+        }
+        m_troubleCodes.push_back(std::move(row));
     }
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 std::vector<std::string> FieldsOf(const std::string& line) {
     std::vector<std::string> fields;
-    std::istringstream stream(line);
+    std::istringstream stream(line.substr(0, line.find('\r')));
     for (std::string field; std::getline(stream, field, ',');) {
         fields.push_back(field);
     }
