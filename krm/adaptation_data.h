@@ -2,7 +2,8 @@
 #ifndef KRM_ADAPTATION_DATA_H_
 #define KRM_ADAPTATION_DATA_H_
 
-// Lists, strings, the message base, the error object, the operation log.
+// Lists, byte buffer, strings, the message base, the error object, the operation log.
+#include "krm/core/binary.h"
 #include "krm/core/list.h"
 #include "krm/platform/platform.h"
 
@@ -16,6 +17,25 @@
 #include "krm/convert/specialised.h"
 
 // Diagnostic commands and their records, by function area.
+#include "krm/messages/diag/active_test.h"
+#include "krm/messages/diag/customize.h"
+#include "krm/messages/diag/data_monitor.h"
 #include "krm/messages/diag/display.h"
+#include "krm/messages/diag/oscilloscope_memory.h"
+#include "krm/messages/diag/trouble_codes.h"
+#include "krm/messages/diag/vehicle.h"
+#include "krm/messages/diag/words.h"
+
+// The auxiliary families.
+#include "krm/messages/auxiliary/stored_data.h"
+#include "krm/messages/auxiliary/unit_conversion.h"
+#include "krm/messages/auxiliary/viewer.h"
+#include "krm/messages/auxiliary/words_table.h"
+
+// Element tree.
+#include "krm/tree/attribute.h"
+#include "krm/tree/element.h"
+#include "krm/tree/element_group.h"
+#include "krm/tree/node.h"
 
 #endif  // KRM_ADAPTATION_DATA_H_

@@ -1,0 +1,34 @@
+// Turns the decimal scaling of an item table into the whole numbers that a conversion record holds.
+#ifndef KRM_EXAMPLES_DIAGNOSIS_SESSION_SCALING_H_
+#define KRM_EXAMPLES_DIAGNOSIS_SESSION_SCALING_H_
+
+#include <optional>
+#include <string_view>
+
+#include "krm/platform/config.h"
+
+namespace diagnosis_session {
+
+/// The decimal places that every number is shown with.
+inline constexpr unsigned char kShownDecimals = 5;
+
+/// The scaling of a conversion record: value = (raw x mul / div + offset) / 10^decimals.
+struct Scaling {
+    krm_long mul = 1;
+    krm_long div = 1;     ///< at least 1
+    krm_long offset = 0;  ///< in units of the last decimal place
+    unsigned char decimals = kShownDecimals;
+};
+
+/// The whole numbers for value = raw x mul / div + add, where `raw` has `bits` bits and the three texts are decimal
+/// numbers as JSON writes them ("0.079", "-40", "1e-3").
+///
+/// Takes kShownDecimals where the numbers then are exact in 32 bits. Where they are not, as with an offset beyond
+/// 21474, it takes other decimal places with which they are; and as a last resort the nearest fraction, if no value
+/// gets wrong by as much as a tenth of the last place shown. Nothing when that can't be had, a text is no number or
+/// `div` is 0.
+std::optional<Scaling> ScalingOf(std::string_view mul, std::string_view div, std::string_view add, unsigned bits);
+
+}  // namespace diagnosis_session
+
+#endif  // KRM_EXAMPLES_DIAGNOSIS_SESSION_SCALING_H_

@@ -1,0 +1,66 @@
+#include "examples/diagnosis_session/scaling.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using diagnosis_session::Scaling;
+using diagnosis_session::ScalingOf;
+
+void ExpectScaling(const char* mul, const char* div, const char* add, const Scaling& expected) {
+    const auto scaling = ScalingOf(mul, div, add, 16);
+    ASSERT_TRUE(scaling) << mul << " / " << div << " + " << add;
+    EXPECT_EQ(scaling->mul, expected.mul);
+    EXPECT_EQ(scaling->div, expected.div);
+    EXPECT_EQ(scaling->offset, expected.offset);
+    EXPECT_EQ(scaling->decimals, expected.decimals);
+}
+
+TEST(Scaling, IsExactWithFiveDecimalsWhereItCanBe) {
+    ExpectScaling("1", "1", "0", {100000, 1, 0, 5});
+    ExpectScaling("1", "1", "-40", {100000, 1, -4000000, 5});
+    ExpectScaling("100", "255", "0", {2000000, 51, 0, 5});
+    ExpectScaling("100", "128", "-100", {78125, 1, -10000000, 5});
+    ExpectScaling("0.079", "1", "0", {7900, 1, 0, 5});
+    ExpectScaling("1", "8196", "0", {25000, 2049, 0, 5});
+    ExpectScaling("1", "32768", "-128.5", {3125, 1024, -12850000, 5});
+    ExpectScaling("1.0", "1.0", "0.0", {100000, 1, 0, 5});
+    ExpectScaling("3e-2", "1", "1E+1", {3000, 1, 1000000, 5});
+    ExpectScaling("0.000030517578125", "1", "0", {3125, 1024, 0, 5});
+}
+
+TEST(Scaling, TheSignStandsInTheMultiplier) {
+    ExpectScaling("-1", "4", "0", {-25000, 1, 0, 5});
+    ExpectScaling("1", "-4", "0", {-25000, 1, 0, 5});
+    ExpectScaling("-1", "-4", "0", {25000, 1, 0, 5});
+}
+
+TEST(Scaling, OtherDecimalsWhereFiveDontFit) {
+    ExpectScaling("1", "128", "-38665", {625, 8, -386650000, 4});
+    ExpectScaling("100000", "1", "0", {1000000000, 1, 0, 4});
+    ExpectScaling("1", "1", "0.0000001", {10000000, 1, 1, 7});
+    ExpectScaling("1", "1", "2147483647", {1, 1, 2147483647, 0});
+}
+
+TEST(Scaling, TheNearestFractionAsALastResort) {
+    const auto scaling = ScalingOf("0.30517578194763", "1", "0", 16);
+    ASSERT_TRUE(scaling);
+    double unit = 1;
+    for (int i = 0; i < scaling->decimals; ++i) {
+        unit *= 10;
+    }
+    EXPECT_NEAR(65535.0 * scaling->mul / scaling->div / unit, 65535.0 * 0.30517578194763, 1e-6);
+}
+
+TEST(Scaling, NothingWhereItDoesNotFitOrIsNoScaling) {
+    EXPECT_FALSE(ScalingOf("1", "1", "3000000000", 8));
+    EXPECT_FALSE(ScalingOf("3000000000.5", "1", "0", 32));
+    EXPECT_FALSE(ScalingOf("1", "0", "0", 8));
+    EXPECT_FALSE(ScalingOf("1", "0.0", "0", 8));
+    EXPECT_FALSE(ScalingOf("", "1", "0", 8));
+    EXPECT_FALSE(ScalingOf("one", "1", "0", 8));
+    EXPECT_FALSE(ScalingOf("1e", "1", "0", 8));
+    EXPECT_FALSE(ScalingOf("1e999", "1", "0", 8));
+}
+
+}  // namespace
