@@ -23,7 +23,8 @@ namespace {
 double Unscaled(double value, krm_long lMul, krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount) {
     double unscaled = value * PowerOfTen(uchDecPntCount) - lOffset;
     if (lMul != 1) {
-        unscaled /= lMul;
+        // No value has a multiplier of 0 undone; NaN ends where the infinity of a division would.
+        unscaled = lMul != 0 ? unscaled / lMul : std::numeric_limits<double>::quiet_NaN();
     }
     if (Divides(lDiv)) {
         unscaled *= lDiv;

@@ -235,17 +235,20 @@ protected:
 
 namespace krm {
 
-/// `message` as the class that the caller expects; null where it is null, carries another type or ID, or goes the other
-/// way (a request and its answer carry the same).
+/// `message` as the class that the caller expects, or null where it is null or carries another type or ID. Needs no
+/// run-time type information.
 ///
 ///     if (auto* answer = krm::MessageAs<CKRMCGetDTCCmdAdaptDataRcv>(message)) ...
+///
+/// A request and its answer carry the same type and ID: whether requests or answers arrive is for the caller to know. He
+/// must not ask for a request's class where answers arrive, nor the other way round.
 template <class Message>
 const Message* MessageAs(const CKRMBaseAdaptationData* message) {
     if (message == nullptr || message->GetCommandType() != Message::kCommandType ||
         message->GetCommandID() != Message::kCommandId) {
         return nullptr;
     }
-    return dynamic_cast<const Message*>(message);
+    return static_cast<const Message*>(message);
 }
 template <class Message>
 Message* MessageAs(CKRMBaseAdaptationData* message) {
