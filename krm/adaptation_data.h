@@ -11,6 +11,10 @@
 #include "krm/framework/message.h"
 #include "krm/framework/record.h"
 
+// Signal converters.
+#include "krm/convert/converter.h"
+#include "krm/convert/specialised.h"
+
 // Diagnostic commands and their records, by function area.
 #include "krm/messages/diag/display.h"
 

@@ -1,0 +1,120 @@
+#include "krm/convert/text_converters.h"
+
+#include <array>
+#include <cstddef>
+
+#include "krm/convert/numbers.h"
+
+using krm::kNullPointer;
+using krm::convert::BeginText;
+
+namespace {
+
+/// Degrees behind the letter of their half of the globe. NaN counts as north and east.
+void ShowDegrees(CKRMString& result, double degrees, const char* positive, const char* negative) {
+    constexpr unsigned char kDecimals = 4;
+    const bool below = degrees < 0;
+    result = below ? negative : positive;
+    result += krm::convert::DecimalText(below ? -degrees : degrees, kDecimals).Text();
+}
+
+}  // namespace
+
+krm_ulong CKRMCCommandConvSignalDataHex::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
+                                                          krm_ulong, unsigned char, unsigned short ushBitLength,
+                                                          unsigned char, krm_ulong, krm_ulong,
+                                                          CKRMList<CKRMCCommandDispData>*, CKRMString*, krm_ulong) {
+    if (!BeginText(result, stringId)) {
+        return kNullPointer;
+    }
+    return HexStringConversion(result, dPhys, ushBitLength);
+}
+
+krm_ulong CKRMCCommandConvSignalDataHex2::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
+                                                           krm_ulong, unsigned char, unsigned short ushBitLength,
+                                                           unsigned char, krm_ulong, krm_ulong,
+                                                           CKRMList<CKRMCCommandDispData>*, CKRMString*, krm_ulong) {
+    if (!BeginText(result, stringId)) {
+        return kNullPointer;
+    }
+    return HexStringConversion2(result, dPhys, ushBitLength);
+}
+
+krm_ulong CKRMCCommandConvSignalDataDiagCode::ValueConversion(double* result, krm_ulong ulRawData, unsigned char,
+                                                              unsigned short, krm_long, krm_long, krm_long,
+                                                              unsigned char) {
+    if (result == nullptr) {
+        return kNullPointer;
+    }
+    *result = ulRawData;
+    return 0;
+}
+
+krm_ulong CKRMCCommandConvSignalDataDiagCode::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
+                                                               krm_ulong, unsigned char, unsigned short, unsigned char,
+                                                               krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>*,
+                                                               CKRMString*, krm_ulong) {
+    if (!BeginText(result, stringId)) {
+        return kNullPointer;
+    }
+    const krm_ulong code = krm::convert::TruncateToLow32(dPhys);
+    constexpr std::array<char, 4> kSystems = {'P', 'C', 'B', 'U'};  // powertrain, chassis, body, network
+    result->Format("%c%04X", kSystems[(code >> 14U) & 3U], static_cast<unsigned>(code & 0x3FFFU));
+    return 0;
+}
+
+krm_ulong CKRMCCommandConvSignalDataLatitude::StringConversion(CKRMString* result, krm_ulong*, double dPhys, krm_ulong,
+                                                               unsigned char, unsigned short, unsigned char, krm_ulong,
+                                                               krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
+                                                               krm_ulong) {
+    if (result == nullptr) {
+        return kNullPointer;
+    }
+    ShowDegrees(*result, dPhys, "N", "S");
+    return 0;
+}
+
+krm_ulong CKRMCCommandConvSignalDataLongitude::StringConversion(CKRMString* result, krm_ulong*, double dPhys, krm_ulong,
+                                                                unsigned char, unsigned short, unsigned char, krm_ulong,
+                                                                krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
+                                                                krm_ulong) {
+    if (result == nullptr) {
+        return kNullPointer;
+    }
+    ShowDegrees(*result, dPhys, "E", "W");
+    return 0;
+}
+
+krm_ulong CKRMCCommandConvSignalDataSoftwareVersion::StringConversion(CKRMString* result, krm_ulong* stringId, double,
+                                                                      krm_ulong ulRawData, unsigned char,
+                                                                      unsigned short, unsigned char, krm_ulong,
+                                                                      krm_ulong, CKRMList<CKRMCCommandDispData>*,
+                                                                      CKRMString*, krm_ulong) {
+    if (!BeginText(result, stringId)) {
+        return kNullPointer;
+    }
+    result->Format("%X.%02X", static_cast<unsigned>((ulRawData >> 8U) & 0xFFU),
+                   static_cast<unsigned>(ulRawData & 0xFFU));
+    return 0;
+}
+
+krm_ulong CKRMCCommandConvSignalDataBin::StringConversion(CKRMString* result, krm_ulong* stringId, double,
+                                                          krm_ulong ulRawData, unsigned char,
+                                                          unsigned short ushBitLength, unsigned char, krm_ulong,
+                                                          krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
+                                                          krm_ulong) {
+    if (!BeginText(result, stringId)) {
+        return kNullPointer;
+    }
+    constexpr std::size_t kMostBits = 32;
+    if (ushBitLength > kMostBits) {
+        return kNullPointer;
+    }
+    std::array<char, kMostBits + 1> digits;
+    for (std::size_t i = 0; i < ushBitLength; ++i) {
+        digits[i] = ((ulRawData >> (ushBitLength - 1 - i)) & 1U) != 0 ? '1' : '0';
+    }
+    digits[ushBitLength] = '\0';
+    *result = digits.data();
+    return 0;
+}

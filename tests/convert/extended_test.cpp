@@ -1,0 +1,90 @@
+// Extended precision in integers gives bit for bit what the processor's gives.
+#include "krm/convert/extended.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cstdint>
+#include <limits>
+#include <random>
+
+namespace {
+
+using krm::convert::SoftExtended;
+
+#if LDBL_MANT_DIG == 64
+
+template <class Number>
+double Scaled(krm_int64 number, krm_int64 multiplier, krm_int64 divisor, krm_int64 offset, double power) {
+    const Number product = static_cast<Number>(number) * static_cast<Number>(multiplier);
+    const Number quotient = product / static_cast<Number>(divisor);
+    const Number sum = quotient + static_cast<Number>(offset);
+    return static_cast<double>(sum / static_cast<Number>(power));
+}
+
+void ExpectSame(krm_int64 number, krm_int64 multiplier, krm_int64 divisor, krm_int64 offset, double power) {
+    const double soft = Scaled<SoftExtended>(number, multiplier, divisor, offset, power);
+    const double hardware = Scaled<long double>(number, multiplier, divisor, offset, power);
+    if (hardware == 0) {
+        EXPECT_EQ(0, soft);  // the integers' zero has no sign
+    } else {
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(hardware), std::bit_cast<std::uint64_t>(soft))
+            << number << " * " << multiplier << " / " << divisor << " + " << offset << " / " << power;
+    }
+}
+
+TEST(SoftExtended, RandomScalingsAreTheProcessors) {
+    std::mt19937 random(20);
+    std::uniform_int_distribution<int> bits(0, 31);
+    std::uniform_int_distribution<int> decimals(0, 255);
+    const auto number = [&] {
+        const auto magnitude = static_cast<krm_int64>(random() >> bits(random));
+        return (random() & 1U) != 0 ? -magnitude : magnitude;
+    };
+    for (int i = 0; i < 200'000; ++i) {
+        krm_int64 divisor = number();
+        if (divisor == 0) {
+            divisor = 7;
+        }
+        double power = 1;
+        for (int n = decimals(random) % (i % 4 == 0 ? 256 : 8); n > 0; --n) {
+            power *= 10;
+        }
+        ExpectSame(number(), number(), divisor, number(), power);
+        if (HasFailure()) {
+            return;
+        }
+    }
+}
+
+TEST(SoftExtended, SumsThatCancelCarryOrFallFarApart) {
+    for (const krm_int64 divisor : {3, 7, -3, 1 << 30, std::numeric_limits<int>::min()}) {
+        for (krm_int64 number = -40; number <= 40; ++number) {
+            for (krm_int64 offset = -15; offset <= 15; ++offset) {
+                ExpectSame(number, 1, divisor, offset, 1);
+                ExpectSame(number, std::numeric_limits<int>::max(), divisor, offset, 100);
+            }
+        }
+    }
+}
+
+TEST(SoftExtended, WholeRangeOfIntegersAndPowers) {
+    for (const krm_int64 number : {std::numeric_limits<krm_int64>::min(), std::numeric_limits<krm_int64>::max(),
+                                   std::numeric_limits<krm_int64>::max() - 1, krm_int64{1} << 53,
+                                   (krm_int64{1} << 53) + 1, (krm_int64{1} << 54) + 2, krm_int64{0}}) {
+        ExpectSame(number, 1, 1, 0, 1);
+        ExpectSame(number, 3, 1, 1, 1e255);
+        ExpectSame(number, -1, 1, -1, 10);
+        ExpectSame(number, std::numeric_limits<krm_int64>::max(), 1, 1, 1e22);
+    }
+}
+
+#else
+
+TEST(SoftExtended, ComparedWithTheProcessor) {
+    GTEST_SKIP() << "this compiler has no 80-bit long double";
+}
+
+#endif
+
+}  // namespace

@@ -1,0 +1,20 @@
+# Builds and runs the consumer: cmake -DHOW=installed|subdirectory -DBUILD_DIR=... -DSOURCE_DIR=... -DWORK_DIR=...
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${ARGN}\n${output}")
+    endif()
+endfunction()
+
+file(REMOVE_RECURSE ${WORK_DIR})
+set(arguments -S ${SOURCE_DIR}/tests/package/consumer -B ${WORK_DIR}/build -G Ninja -DCMAKE_CXX_FLAGS=${CXX_FLAGS}
+    -DCMAKE_CXX_COMPILER=${CXX_COMPILER})
+if(HOW STREQUAL "installed")
+    run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/prefix)
+    list(APPEND arguments -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix)
+else()
+    list(APPEND arguments -DKRM_SOURCE_DIR=${SOURCE_DIR})
+endif()
+run(${CMAKE_COMMAND} ${arguments})
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
+run(${WORK_DIR}/build/consumer)
