@@ -10,6 +10,7 @@
 #include <string>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "krm/messages/auxiliary/stored_data.h"
@@ -87,14 +88,13 @@ struct AnyClass {
 template <class T>
 std::vector<FieldPlace> PlacesOfFields(T& it) {
     std::vector<FieldPlace> places;
-    const auto* const start = reinterpret_cast<const char*>(&it);
+    [[maybe_unused]] const auto* const start = reinterpret_cast<const char*>(&it);
     std::apply(
         [&](auto&... field) {
             places = {{static_cast<std::size_t>(reinterpret_cast<const char*>(&field) - start), sizeof field,
                        alignof(std::remove_reference_t<decltype(field)>)}...};
         },
         FieldsOf(it));
-    (void)start;
     return places;
 }
 
