@@ -1,0 +1,171 @@
+// What holds for each message without exception. A class that is missing does not compile; one that is wrong fails by
+// its name.
+
+#include <gmock/gmock.h>
+
+#include <cstddef>
+#include <iterator>
+#include <ostream>
+#include <set>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "krm/framework/commands.h"
+#include "krm/framework/message.h"
+#include "tests/messages/auxiliary/stored_data_fields.h"
+#include "tests/messages/auxiliary/unit_conversion_fields.h"
+#include "tests/messages/auxiliary/viewer_fields.h"
+#include "tests/messages/auxiliary/words_table_fields.h"
+#include "tests/messages/diag/active_test_fields.h"
+#include "tests/messages/diag/customize_fields.h"
+#include "tests/messages/diag/data_monitor_fields.h"
+#include "tests/messages/diag/display_fields.h"
+#include "tests/messages/diag/oscilloscope_memory_fields.h"
+#include "tests/messages/diag/trouble_codes_fields.h"
+#include "tests/messages/diag/vehicle_fields.h"
+#include "tests/messages/diag/words_fields.h"
+#include "tests/support/all_classes.h"
+#include "tests/support/any_class.h"
+
+namespace {
+
+using krm::test::AnyClass;
+using krm::test::AnyClassOf;
+
+// One line of the list of messages.
+struct ListedMessage {
+    const char* name;
+    krm_ulong type;
+    krm_ulong id;
+    AnyClass any;
+    std::size_t baseSize;
+    bool hasItsBase;
+    krm_ulong typeConstant;
+    krm_ulong idConstant;
+    CKRMBaseAdaptationData& (*untyped)(void* it);
+};
+
+void PrintTo(const ListedMessage& message, std::ostream* out) {
+    *out << message.name;
+}
+
+template <class Message, class Base>
+constexpr ListedMessage Listed(const char* name, krm_ulong type, krm_ulong id) {
+    return {name,
+            type,
+            id,
+            AnyClassOf<Message>(),
+            sizeof(Base),
+            std::is_base_of_v<Base, Message>,
+            Message::kCommandType,
+            Message::kCommandId,
+            [](void* it) -> CKRMBaseAdaptationData& { return *static_cast<Message*>(it); }};
+}
+
+#define KRM_LISTED(name, base, type, id) Listed<name, base>(#name, type, id),
+constexpr ListedMessage kMessages[] = {KRM_ALL_MESSAGES(KRM_LISTED)};
+#undef KRM_LISTED
+
+class EveryMessage : public testing::TestWithParam<ListedMessage> {};
+INSTANTIATE_TEST_SUITE_P(All, EveryMessage, testing::ValuesIn(kMessages),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST_P(EveryMessage, HasItsBaseTypeAndId) {
+    EXPECT_TRUE(GetParam().hasItsBase);
+    EXPECT_EQ(GetParam().typeConstant, GetParam().type);
+    EXPECT_EQ(GetParam().idConstant, GetParam().id);
+    const AnyClass::Object it = GetParam().any.make();
+    const CKRMBaseAdaptationData& message = GetParam().untyped(it.get());
+    EXPECT_EQ(message.GetCommandType(), GetParam().type);
+    EXPECT_EQ(message.GetCommandID(), GetParam().id);
+}
+
+TEST_P(EveryMessage, ClearRestoresTypeAndId) {
+    const AnyClass::Object it = GetParam().any.make();
+    CKRMBaseAdaptationData& message = GetParam().untyped(it.get());
+    message.SetCommandID(99);
+    message.SetCommandType(0);
+    message.Clear();
+    EXPECT_EQ(message.GetCommandType(), GetParam().type);
+    EXPECT_EQ(message.GetCommandID(), GetParam().id);
+}
+
+TEST_P(EveryMessage, HasItsFieldsInOrderAndNoOther) {
+    krm::test::ExpectFieldsFillTheObject(GetParam().any, GetParam().baseSize);
+}
+
+TEST_P(EveryMessage, StartsAsDocumented) {
+    krm::test::ExpectDocumentedStart(GetParam().any);
+}
+
+TEST_P(EveryMessage, ClearRestoresTheStart) {
+    krm::test::ExpectClearRestoresTheStart(GetParam().any);
+}
+
+TEST_P(EveryMessage, CopiesShareNothing) {
+    krm::test::ExpectCopiesShareNothing(GetParam().any);
+}
+
+TEST_P(EveryMessage, AssignmentsShareNothing) {
+    krm::test::ExpectAssignmentsShareNothing(GetParam().any);
+}
+
+// The name of the class of `command`'s request (`direction` "Snd") or answer ("Rcv").
+std::string ClassName(const krm::Command& command, std::string_view direction) {
+    std::string_view family;
+    switch (command.family) {
+        case krm::CommandFamily::Diagnostic:
+            family = "CmdAdaptData";
+            break;
+        case krm::CommandFamily::Viewer:
+            family = "VdcAdaptData";
+            break;
+        case krm::CommandFamily::StoredDataImport:
+            family = "DsdiAdaptData";
+            break;
+        case krm::CommandFamily::UnitConversion:
+            family = "UccAdaptData";
+            break;
+        case krm::CommandFamily::WordsTable:
+            family = "DwtAdaptData";
+            break;
+    }
+    const std::string_view name = command.name;
+    if (command.family == krm::CommandFamily::Viewer && (name == "GetHelpInfo" || name == "GetPcViewerResource")) {
+        family = "VdcAdptData";
+    }
+    return "CKRMC" + std::string(name) + std::string(family) + std::string(direction);
+}
+
+TEST(TableOfCommands, HasARequestAndAnAnswerForEachCommand) {
+    for (const krm::Command& command : krm::kCommands) {
+        std::vector<std::string> names;
+        for (const ListedMessage& message : kMessages) {
+            if (message.type == static_cast<krm_ulong>(command.family) && message.id == command.id) {
+                names.emplace_back(message.name);
+            }
+        }
+        EXPECT_THAT(names, testing::UnorderedElementsAre(ClassName(command, "Snd"), ClassName(command, "Rcv")));
+    }
+}
+
+TEST(TableOfCommands, HasTheCommandOfEachMessage) {
+    for (const ListedMessage& message : kMessages) {
+        const krm::Command* const command = krm::FindCommand(message.type, message.id);
+        ASSERT_NE(command, nullptr) << message.name;
+        EXPECT_THAT(message.name, testing::AnyOf(ClassName(*command, "Snd"), ClassName(*command, "Rcv")));
+    }
+}
+
+TEST(TableOfCommands, Has79CommandsOf158Messages) {
+    EXPECT_EQ(std::size(krm::kCommands), 79U);
+    EXPECT_EQ(std::size(kMessages), 158U);
+    std::set<std::string_view> names;
+    for (const ListedMessage& message : kMessages) {
+        EXPECT_TRUE(names.insert(message.name).second) << message.name << " is listed twice";
+    }
+}
+
+}  // namespace
