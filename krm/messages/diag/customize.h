@@ -39,7 +39,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandCancelCodeData>;
 
-/// A category of cancel codes, with the warning that is shown before they are read.
+/// A category of cancel codes and its warning.
 class KRM_API CKRMCCommandCancelCodeCategoryInfo : public RecordOf<CKRMCCommandCancelCodeCategoryInfo> {
 public:
     ~CKRMCCommandCancelCodeCategoryInfo() override;
@@ -68,7 +68,7 @@ public:
     CKRMString m_strUnitPhys;                     ///< physical unit
     krm_ulong m_ulUnitId = 0;                     ///< words ID of the display unit
     CKRMString m_strUnit;                         ///< display unit
-    unsigned char m_uchDataType = 0;              ///< conversion type of the value
+    unsigned char m_uchDataType = 0;              ///< data type of the value, as the converters take it
     unsigned char m_uchDecPntCount = 0;           ///< decimal places
     unsigned char m_uchUnitConvDecPntCount = 0;   ///< decimal places after unit conversion
     CKRMCCommandConversionData m_cConversionTbl;  ///< conversion of the value
@@ -238,7 +238,7 @@ public:
 
     unsigned short m_ushCustomizeId = 0;            ///< customisation ID
     bool m_bGetCurrentValue = false;                ///< current values are asked for too
-    CKRMList<krm_ulong> m_cSpecialFunctionKeyList;  ///< special function keys that the user has
+    CKRMList<krm_ulong> m_cSpecialFunctionKeyList;  ///< special function keys; logged under the name Data
     krm_ulong m_ulPersonalizeId = 0;                ///< whose settings are meant; the IDs are the engine's
 };
 
@@ -367,7 +367,7 @@ class KRM_API CKRMCGetCancelCodeCmdAdaptDataRcv
 public:
     krm_long ErrWriteOperationLog() override;
 
-    CKRMList<CKRMCCommandDTCData> m_cDTCList;   ///< trouble codes (DTC)
+    CKRMList<CKRMCCommandDTCData> m_cDTCList;   ///< trouble codes (DTC); logged under the name Data
     CKRMList<CKRMCCommandCancelCodeData> Data;  ///< cancel codes
     bool m_bProhibit = false;                   ///< prohibited; what is, is the engine's to say
 };

@@ -134,7 +134,7 @@ public:
     unsigned short m_ushDataMonitorId = 0;
 };
 
-/// Answers with the values. Polled all the time, so the log gets its base's lines only.
+/// Answers with the values. They stay out of the log, which gets the base's lines only.
 class KRM_API CKRMCGetDataMonitorValueCmdAdaptDataRcv
     : public MessageOf<CKRMCGetDataMonitorValueCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorValue")> {
@@ -163,7 +163,7 @@ public:
     CKRMList<CKRMCCommandTriggerData> m_cTriggerList;
 };
 
-/// GetDescription (25) asks for the description of the ECU.
+/// GetDescription (25) asks for a description.
 class KRM_API CKRMCGetDescriptionCmdAdaptDataSnd
     : public MessageOf<CKRMCGetDescriptionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDescription")> {

@@ -35,7 +35,7 @@ public:
     krm_ulong m_ulUnitId = 0;  ///< words ID of the display unit
     CKRMString m_strUnit;
     krm_ulong m_ulOscReserved = 0;                ///< stored and copied, never logged
-    unsigned char m_uchDataType = 0;              ///< data type of the value
+    unsigned char m_uchDataType = 0;              ///< data type of the value, as the converters take it
     unsigned char m_uchDecPntCount = 0;           ///< decimal places of the value
     unsigned char m_uchUnitConvDecPntCount = 0;   ///< decimal places after unit conversion
     CKRMCCommandConversionData m_cConversionTbl;  ///< conversion rule

@@ -60,7 +60,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandCarTypeOptionContentsData>;
 
-/// A car type option, asked after the categories where they leave several vehicles, with all its choices.
+/// A car type option with all its choices.
 class KRM_API CKRMCCommandCarTypeOptionData : public RecordOf<CKRMCCommandCarTypeOptionData> {
 public:
     ~CKRMCCommandCarTypeOptionData() override;
@@ -135,7 +135,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandVehicleInfoItem>;
 
-/// One vehicle information that has been chosen, or can be.
+/// One piece of vehicle information that has been chosen, or can be.
 class KRM_API CKRMCCommandVehicleInfoData : public RecordOf<CKRMCCommandVehicleInfoData> {
 public:
     ~CKRMCCommandVehicleInfoData() override;
@@ -158,7 +158,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandVehicleInfoSelectData>;
 
-/// One information about a system of the vehicle.
+/// One piece of information about a system of the vehicle.
 class KRM_API CKRMCCommandVehicleSystemInfo : public RecordOf<CKRMCCommandVehicleSystemInfo> {
 public:
     ~CKRMCCommandVehicleSystemInfo() override;
