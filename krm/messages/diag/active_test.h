@@ -176,7 +176,7 @@ public:
 };
 extern template class CKRMList<CKRMCDrivingData>;
 
-/// GetUtilityList (26) asks for the utility functions.
+/// GetUtilityList asks for the utility functions.
 class KRM_API CKRMCGetUtilityListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetUtilityListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetUtilityList")> {
@@ -199,7 +199,7 @@ public:
     CKRMList<CKRMCCommandJ2534Config> m_cJ2534ConfigList;  ///< J2534 parameters; logged under the name Data too
 };
 
-/// GetCustomList (28) asks for the lists that the user has put together.
+/// GetCustomList asks for the lists that the user has put together.
 class KRM_API CKRMCGetCustomListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCustomListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCustomList")> {
@@ -217,7 +217,7 @@ public:
     CKRMList<CKRMCCommandCustomListData> Data;  ///< the lists
 };
 
-/// StartActiveTest (32) asks to drive an actuator.
+/// StartActiveTest asks to drive an actuator.
 class KRM_API CKRMCStartActiveTestCmdAdaptDataSnd
     : public MessageOf<CKRMCStartActiveTestCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "StartActiveTest")> {
@@ -238,7 +238,7 @@ public:
     ~CKRMCStartActiveTestCmdAdaptDataRcv() override;
 };
 
-/// GetActiveTestList (34) asks for the active tests of an ECU.
+/// GetActiveTestList asks for the active tests of an ECU.
 class KRM_API CKRMCGetActiveTestListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetActiveTestListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetActiveTestList")> {
@@ -259,7 +259,7 @@ public:
     CKRMList<CKRMCCommandActiveTestData> Data;  ///< active tests
 };
 
-/// CheckActiveTestAssumption (37) asks whether the conditions of an active test are met.
+/// CheckActiveTestAssumption asks whether the conditions of an active test are met.
 class KRM_API CKRMCCheckActiveTestAssumptionCmdAdaptDataSnd
     : public MessageOf<CKRMCCheckActiveTestAssumptionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "CheckActiveTestAssumption")> {
@@ -280,7 +280,7 @@ public:
     krm_ulong m_ulHelpId = 0;          ///< help ID
 };
 
-/// SetActiveTestSession (38) asks to change the session for an active test.
+/// SetActiveTestSession asks to change the session for an active test.
 class KRM_API CKRMCSetActiveTestSessionCmdAdaptDataSnd
     : public MessageOf<CKRMCSetActiveTestSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "SetActiveTestSession")> {
@@ -299,7 +299,7 @@ public:
     ~CKRMCSetActiveTestSessionCmdAdaptDataRcv() override;
 };
 
-/// GetSpOperateCtrlRecordGroup (66) asks for the groups of special operation control records.
+/// GetSpOperateCtrlRecordGroup asks for the groups of special operation control records.
 class KRM_API CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataSnd
     : public MessageOf<CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetSpOperateCtrlRecordGroup")> {
@@ -317,7 +317,7 @@ public:
     CKRMList<CKRMCSpGroup> Data;  ///< groups
 };
 
-/// GetSpOperateCtrlRecord (67) asks for the special operation control records of a group.
+/// GetSpOperateCtrlRecord asks for the special operation control records of a group.
 class KRM_API CKRMCGetSpOperateCtrlRecordCmdAdaptDataSnd
     : public MessageOf<CKRMCGetSpOperateCtrlRecordCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetSpOperateCtrlRecord")> {
@@ -337,7 +337,7 @@ public:
     CKRMList<CKRMCCommandFFDData> m_cSpOperateList;  ///< records
 };
 
-/// WriteDataItem (91) asks to write single items of an ECU.
+/// WriteDataItem asks to write single items of an ECU.
 class KRM_API CKRMCWriteDataItemCmdAdaptDataSnd
     : public MessageOf<CKRMCWriteDataItemCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "WriteDataItem")> {
@@ -355,7 +355,7 @@ public:
     ~CKRMCWriteDataItemCmdAdaptDataRcv() override;
 };
 
-/// GetSpecialFunctionKeyList (94) asks for the special function keys.
+/// GetSpecialFunctionKeyList asks for the special function keys.
 class KRM_API CKRMCGetSpecialFunctionKeyListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetSpecialFunctionKeyListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetSpecialFunctionKeyList")> {
