@@ -1,0 +1,127 @@
+#include "krm/tree/chain.h"
+
+#include <utility>
+#include <vector>
+
+#include "krm/tree/attribute.h"
+#include "krm/tree/element.h"
+#include "krm/tree/element_group.h"
+
+namespace krm::tree {
+
+/// Unlinks a chain that `node` owns and returns its head; null when there is none, or when the node's own destructor is
+/// to do it.
+CKRMCNode* Chain::TakeChildren(CKRMCNode* node) {
+    if (CKRMCElement* const element = ExactlyA<CKRMCElement>(node)) {
+        if (element->m_pcFirstAttribute != nullptr) {
+            element->m_pcLastAttribute = nullptr;
+            return std::exchange(element->m_pcFirstAttribute, nullptr);
+        }
+        element->m_pcLastGroup = nullptr;
+        return std::exchange(element->m_pcFirstGroup, nullptr);
+    }
+    if (CKRMCElementGroup* const group = ExactlyA<CKRMCElementGroup>(node)) {
+        group->m_pcLastElement = nullptr;
+        return std::exchange(group->m_pcFirstElement, nullptr);
+    }
+    return nullptr;
+}
+
+// A destructor that destroyed children and followers by itself would need a stack as deep as the tree, and as long as
+// its longest chain. Here each node goes with nothing left to destroy. The way back up takes the place of the link to
+// the previous sibling, which is gone by then.
+void Chain::Destroy(CKRMCNode* node) {
+    CKRMCNode* up = nullptr;
+    while (node != nullptr) {
+        node->m_pcPrev = up;
+        if (CKRMCNode* const child = TakeChildren(node)) {
+            up = node;
+            node = child;
+            continue;
+        }
+        CKRMCNode* const next = std::exchange(node->m_pcNext, nullptr);
+        node->m_pcPrev = nullptr;
+        delete node;
+        node = next;
+        if (node == nullptr && up != nullptr) {
+            node = up;
+            up = node->m_pcPrev;
+        }
+    }
+}
+
+/// Writes elements and groups with an explicit stack of those that are open.
+class Chain::Describer {
+public:
+    explicit Describer(CKRMString& out) : m_out(out) {}
+
+    void Open(CKRMCElement& element) {
+        m_result = 0;
+        m_out += "<";
+        m_out += element.m_strName;
+        if (element.m_pcFirstAttribute != nullptr) {
+            m_result = element.m_pcFirstAttribute->Description(m_out);
+        }
+        m_out += ">\n";
+        m_open.push_back({&element, true});
+        m_node = element.m_pcFirstGroup;
+    }
+
+    void Open(CKRMCElementGroup& group) {
+        m_result = 0;
+        m_open.push_back({&group, false});
+        m_node = group.m_pcFirstElement;
+    }
+
+    krm_ulong Run() {
+        while (m_node != nullptr || !m_open.empty()) {
+            if (m_node == nullptr) {
+                Close();
+            } else if (CKRMCElement* const element = ExactlyA<CKRMCElement>(m_node)) {
+                Open(*element);
+            } else if (CKRMCElementGroup* const group = ExactlyA<CKRMCElementGroup>(m_node)) {
+                Open(*group);
+            } else {
+                m_result = m_node->Description(m_out);  // its followers are its own business
+                m_node = nullptr;
+            }
+        }
+        return m_result;
+    }
+
+private:
+    struct Holder {
+        CKRMCNode* node;
+        bool isElement;
+    };
+
+    void Close() {
+        const Holder closed = m_open.back();
+        m_open.pop_back();
+        if (closed.isElement) {
+            m_out += "</";
+            m_out += closed.node->m_strName;
+            m_out += ">\n";
+        }
+        m_node = closed.node->m_pcNext;
+    }
+
+    CKRMString& m_out;
+    std::vector<Holder> m_open;
+    CKRMCNode* m_node = nullptr;  // the next to describe; null at the end of a chain
+    krm_ulong m_result = 0;       // of the last description in documented order
+};
+
+krm_ulong Chain::Describe(CKRMCElement& element, CKRMString& out) {
+    Describer describer(out);
+    describer.Open(element);
+    return describer.Run();
+}
+
+krm_ulong Chain::Describe(CKRMCElementGroup& group, CKRMString& out) {
+    Describer describer(out);
+    describer.Open(group);
+    return describer.Run();
+}
+
+}  // namespace krm::tree

@@ -1,0 +1,114 @@
+// Chains of siblings: how nodes are appended, found, removed, described and destroyed. Part of the tree's inside.
+#ifndef KRM_TREE_CHAIN_H_
+#define KRM_TREE_CHAIN_H_
+
+#include <new>
+#include <typeinfo>
+
+#include "krm/tree/node.h"
+#include "krm/tree/operation.h"
+
+class CKRMCElement;
+class CKRMCElementGroup;
+
+namespace krm::tree {
+
+/// `node` as a `T` when it is one and of no derived class, else null.
+///
+/// Describing and destroying go on without recursion through such nodes alone: what an overriding class does in its
+/// Description or destructor must happen inside a call, and only the exact type tells that nothing is overridden.
+template <class T>
+T* ExactlyA(CKRMCNode* node) {
+    return node != nullptr && typeid(*node) == typeid(T) ? static_cast<T*>(node) : nullptr;
+}
+
+/// The operations on chains, which alone reach the links of other nodes.
+struct Chain {
+    /// The first node of that name, or null. A name that is not there is no failure.
+    template <class T>
+    static T* Find(T* head, const char* name) {
+        T* node = head;
+        while (node != nullptr && node->m_strName.Compare(name) != 0) {
+            node = static_cast<T*>(node->m_pcNext);
+        }
+        return node;
+    }
+
+    /// Appends a new node of `parent`; null, and reported, when it can't be allocated.
+    template <class T>
+    static T* AppendNew(Operation& operation, CKRMCNode& parent, T*& head, T*& tail, const char* name) {
+        T* const node = Allocate<T>(name);
+        if (node == nullptr) {
+            operation.Fail(kOutOfMemory);
+            return nullptr;
+        }
+        node->m_pcParent = &parent;
+        node->m_pcPrev = tail;
+        if (tail != nullptr) {
+            tail->m_pcNext = node;
+        }
+        tail = node;
+        if (head == nullptr) {
+            head = node;
+        }
+        return node;
+    }
+
+    /// Unlinks `node` and destroys it with all its followers, which it owns. What leads to these is left as it was.
+    template <class T>
+    static bool Remove(Operation& operation, T*& head, T*& tail, T* node, krm_ulong notFound) {
+        if (node == nullptr) {
+            operation.Fail(kNullArgument);
+            return false;
+        }
+        const CKRMCNode* found = head;
+        while (found != nullptr && found != node) {
+            found = found->m_pcNext;
+        }
+        if (found == nullptr) {
+            operation.Fail(notFound);
+            return false;
+        }
+        CKRMCNode* const next = node->m_pcNext;
+        CKRMCNode* const prev = node->m_pcPrev;
+        if (next != nullptr) {
+            next->m_pcPrev = prev;
+        }
+        if (prev != nullptr) {
+            prev->m_pcNext = next;
+        }
+        if (head == node) {
+            head = static_cast<T*>(next);
+        }
+        if (tail == node) {
+            tail = static_cast<T*>(prev);
+        }
+        delete node;
+        return true;
+    }
+
+    /// Destroys the chain that begins with `node`, which may be null.
+    static void Destroy(CKRMCNode* node);
+
+    /// Describes `element` or `group` as its class does it, then its followers.
+    static krm_ulong Describe(CKRMCElement& element, CKRMString& out);
+    static krm_ulong Describe(CKRMCElementGroup& group, CKRMString& out);
+
+private:
+    class Describer;
+
+    template <class T>
+    static T* Allocate(const char* name) {
+        try {
+            return new (std::nothrow) T(name);
+        } catch (const std::bad_alloc&) {  // the name's own memory
+            return nullptr;
+        }
+    }
+
+    static CKRMCNode* TakeChildren(CKRMCNode* node);
+};
+
+}  // namespace krm::tree
+
+#endif  // KRM_TREE_CHAIN_H_
