@@ -10,7 +10,7 @@
 namespace krm::bench {
 
 /// Each code has all its fields set, three freeze-frame items (trip time, time since ignition-on, type of the clock)
-/// among them: texts of 2 to 43 bytes, 7 of 15 of them longer than what a std::string holds inline.
+/// among them. Texts have 1 to 41 bytes; many are longer than what a std::string holds inline.
 inline constexpr int kCodes = 20;
 
 using Answer = CKRMCGetDTCCmdAdaptDataRcv;
