@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "benchmarks/answer.h"
 #include "benchmarks/workload.h"
@@ -67,25 +68,27 @@ krm_long Count(void* context, const char* text, krm_ulong textLength, int, int) 
 }
 
 void Dump(benchmark::State& state) {
-    auto answer = Filled<Answer>(0);
+    std::vector<Answer> answers = {Filled<Answer>(0), Filled<Answer>(7)};  // of as many lines
     Counter counter;
     KRMC_ER_SetOperationLogSink(&Count, &counter);
-    answer.ErrWriteOperationLog();
+    answers[0].ErrWriteOperationLog();
     state.counters[kLines] = static_cast<double>(counter.lines);
+    std::size_t i = 0;
     for (auto _ : state) {
-        answer.ErrWriteOperationLog();
+        answers[i++ % answers.size()].ErrWriteOperationLog();
         benchmark::DoNotOptimize(counter.bytes);
     }
     KRMC_ER_SetOperationLogSink(nullptr, nullptr);
 }
 
 void PrintToString(benchmark::State& state) {
-    const auto answer = Filled<ProtoAnswer>(0);
+    const std::vector<ProtoAnswer> answers = {Filled<ProtoAnswer>(0), Filled<ProtoAnswer>(7)};
     std::string text;
-    google::protobuf::TextFormat::PrintToString(answer, &text);
+    google::protobuf::TextFormat::PrintToString(answers[0], &text);
     state.counters[kLines] = static_cast<double>(std::count(text.begin(), text.end(), '\n'));
+    std::size_t i = 0;
     for (auto _ : state) {
-        google::protobuf::TextFormat::PrintToString(answer, &text);
+        google::protobuf::TextFormat::PrintToString(answers[i++ % answers.size()], &text);
         benchmark::DoNotOptimize(text.data());
         benchmark::ClobberMemory();
     }
