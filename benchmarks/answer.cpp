@@ -1,0 +1,358 @@
+#include "benchmarks/answer.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "tests/messages/diag/trouble_codes_fields.h"
+
+namespace krm::bench {
+namespace {
+
+struct DispContent {
+    krm_ulong stringId;
+    const char* physText;
+    const char* text;
+    double phys;
+    double value;
+    krm_ulong raw;
+};
+
+struct ItemContent {
+    unsigned short id;
+    const char* name;
+    const char* text;
+    const char* unitPhys;
+    const char* unit;
+    DispContent most;
+    DispContent least;
+    DispContent resolution;
+    DispContent shown;
+    std::vector<DispContent> patterns;
+};
+
+struct CodeContent {
+    krm_ulong code;
+    const char* text;
+    const char* name;
+    const char* comment;
+    std::array<ItemContent, 3> items;
+};
+
+// As a vehicle answers: few texts, short values, names of a phrase's length. Both sides get them as `const char*`, as they
+// come out of a words table.
+const std::vector<CodeContent>& Contents() {
+    static const std::vector<CodeContent> contents = [] {
+        static constexpr std::array<const char*, 8> kCodeTexts = {"P0171", "C1201", "B1421", "U0100",
+                                                                  "P0A0F", "P0300", "U0129", "C1511"};
+        static constexpr std::array<const char*, 5> kNames = {
+            "System Too Lean (Bank 1)", "Engine Control System Malfunction", "Solar Sensor Circuit (Passenger Side)",
+            "Lost Communication with ECM/PCM \"A\"", "Random/Multiple Cylinder Misfire Detected"};
+        static constexpr std::array<const char*, 3> kComments = {"see repair manual", "test failed",
+                                                                 "confirmed in this trip"};
+        static constexpr std::array<const char*, 4> kPhysical = {"123456.7", "98.25", "1045.50", "7"};
+        static constexpr std::array<const char*, 4> kConverted = {"76712.4", "61.05", "649.64", "4"};
+        std::vector<CodeContent> made;
+        for (unsigned i = 0; i < 32; ++i) {
+            const auto shown = [i](unsigned k) {
+                return DispContent{1000 + i * 16 + k,  kPhysical[(i + k) % 4], kConverted[(i + k) % 4],
+                                   1.25 * (i + 1) + k, 0.75 * (i + 2) + k + 1, 0x100 + i * 31 + k};
+            };
+            const auto item = [&](unsigned k, const char* name, const char* text, const char* unit) {
+                ItemContent content{static_cast<unsigned short>(0x200 + i * 3 + k),
+                                    name,
+                                    text,
+                                    unit,
+                                    unit,
+                                    shown(k),
+                                    shown(k + 1),
+                                    shown(k + 2),
+                                    shown(k + 3),
+                                    {}};
+                content.patterns.push_back({300 + k, "not available", "not available", 255, 255, 255});
+                return content;
+            };
+            CodeContent content{0x20000 + i * 257,
+                                kCodeTexts[i % kCodeTexts.size()],
+                                kNames[i % kNames.size()],
+                                kComments[i % kComments.size()],
+                                {item(0, "Trip time since the first detection", "trip counter", "min"),
+                                 item(1, "Time after IG on", "at the time of detection", "sec"),
+                                 item(2, "Type of clock", "source of the time stamp", "--")}};
+            content.items[2].patterns.push_back({400, "internal clock", "internal clock", 1, 1, 1});
+            content.items[2].patterns.push_back({401, "GPS clock (coordinated universal time)", "GPS clock", 2, 2, 2});
+            content.items[2].patterns.push_back({402, "no clock", "no clock", 3, 3, 3});
+            made.push_back(content);
+        }
+        return made;
+    }();
+    return contents;
+}
+
+const CodeContent& ContentOf(unsigned variant, int code) {
+    const std::vector<CodeContent>& contents = Contents();
+    return contents[(variant + static_cast<unsigned>(code)) % contents.size()];
+}
+
+// The fillings below are the same field by field: the message's on top, protobuf's under it.
+
+void Fill(CKRMCCommandDispData& record, const DispContent& content) {
+    record.m_ulDataStringId = content.stringId;
+    record.m_strDataPhys = content.physText;
+    record.m_strData = content.text;
+    record.m_dDataPhys = content.phys;
+    record.m_dData = content.value;
+    record.m_ulRawData = content.raw;
+    record.m_ulDispReserved = 1;
+    record.m_chIndex = 2;
+    record.m_lIndex = 3;
+    record.m_ulDispDataType = 4;
+}
+
+void Fill(proto::DispData& record, const DispContent& content) {
+    record.set_data_string_id(content.stringId);
+    record.set_data_phys_text(content.physText);
+    record.set_data_text(content.text);
+    record.set_data_phys(content.phys);
+    record.set_data(content.value);
+    record.set_raw_data(content.raw);
+    record.set_disp_reserved(1);
+    record.set_short_index(2);
+    record.set_index(3);
+    record.set_disp_data_type(4);
+}
+
+// Appends an empty element and gives it out to be filled in place.
+template <class T>
+T& Append(CKRMList<T>& list) {
+    _SKRMPOSITION* position = list.AddTail(T());
+    return list.GetNext(position);
+}
+
+void Fill(CKRMCCommandConversionData& record, const ItemContent& content) {
+    record.m_lMul = 5;
+    record.m_lDiv = 3;
+    record.m_lOffset = -40;
+    record.m_ushGenreId = 7;
+    record.m_uchSigned = 1;
+    record.m_ushBitLength = 16;
+    record.m_ulConvReserved = 9;
+    record.m_strDefaultPattern = "out of the specified range";
+    Fill(record.m_cDataMax, content.most);
+    Fill(record.m_cDataMin, content.least);
+    Fill(record.m_cGraphMax, content.most);
+    Fill(record.m_cGraphMin, content.least);
+    for (const DispContent& pattern : content.patterns) {
+        Fill(Append(record.m_cPatternDispList), pattern);
+    }
+}
+
+void Fill(proto::ConversionData& record, const ItemContent& content) {
+    record.set_mul(5);
+    record.set_div(3);
+    record.set_offset(-40);
+    record.set_genre_id(7);
+    record.set_sign_code(1);
+    record.set_bit_length(16);
+    record.set_conv_reserved(9);
+    record.set_default_pattern("out of the specified range");
+    Fill(*record.mutable_data_max(), content.most);
+    Fill(*record.mutable_data_min(), content.least);
+    Fill(*record.mutable_graph_max(), content.most);
+    Fill(*record.mutable_graph_min(), content.least);
+    for (const DispContent& pattern : content.patterns) {
+        Fill(*record.add_pattern_disp(), pattern);
+    }
+}
+
+void Fill(CKRMCCommandFFDData& record, const ItemContent& content) {
+    record.m_ushId = content.id;
+    record.m_ulNameId = content.id + 1000U;
+    record.m_strName = content.name;
+    record.m_strFFDText = content.text;
+    record.m_ulUnitPhysId = 11;
+    record.m_strUnitPhys = content.unitPhys;
+    record.m_ulUnitId = 12;
+    record.m_strUnit = content.unit;
+    record.m_ulFFDReserved = 13;
+    record.m_uchDataType = 14;
+    record.m_uchDecPntCount = 2;
+    record.m_uchUnitConvDecPntCount = 1;
+    Fill(record.m_cConversionTbl, content);
+    Fill(record.m_cResolutionData, content.resolution);
+    Fill(Append(record.m_cDispDataList), content.shown);
+    record.m_cDataLayout.m_ulPidNo = content.id + 2000U;
+    record.m_cDataLayout.m_ulDataLen = 8;
+    record.m_cDataLayout.m_uchEndian = 1;
+    record.m_cDataLayout.m_ulByteNum = 2;
+    record.m_cDataLayout.m_ulBytePos = 4;
+    record.m_cDataLayout.m_ulBitMask = 0xFFFF;
+}
+
+void Fill(proto::FFDData& record, const ItemContent& content) {
+    record.set_id(content.id);
+    record.set_name_id(content.id + 1000U);
+    record.set_name(content.name);
+    record.set_ffd_text(content.text);
+    record.set_unit_phys_id(11);
+    record.set_unit_phys(content.unitPhys);
+    record.set_unit_id(12);
+    record.set_unit(content.unit);
+    record.set_ffd_reserved(13);
+    record.set_data_type(14);
+    record.set_dec_pnt_count(2);
+    record.set_unit_conv_dec_pnt_count(1);
+    Fill(*record.mutable_conversion_tbl(), content);
+    Fill(*record.mutable_resolution_data(), content.resolution);
+    Fill(*record.add_disp_data(), content.shown);
+    proto::DataLayout& layout = *record.mutable_data_layout();
+    layout.set_pid_no(content.id + 2000U);
+    layout.set_data_len(8);
+    layout.set_endian(1);
+    layout.set_byte_num(2);
+    layout.set_byte_pos(4);
+    layout.set_bit_mask(0xFFFF);
+}
+
+void Fill(CKRMCCommandDTCData& record, const CodeContent& content) {
+    record.m_uchDTCKind = 1;
+    record.m_ulDTCCode = content.code;
+    record.m_strDTC = content.text;
+    record.m_ulDTCNameId = content.code + 1;
+    record.m_strDTCName = content.name;
+    record.m_ulDTCDivNameId = content.code + 2;
+    record.m_strDTCDivName = "Powertrain";
+    record.m_chFFDType = 3;
+    record.m_uchFFDId = 4;
+    record.m_strComment = content.comment;
+    for (unsigned char number = 1; number <= 2; ++number) {
+        record.m_uchSSRNo.AddTail(number);
+        record.m_uchSDRNo.AddTail(number);
+    }
+    record.m_uchDTCType = 5;
+    record.m_ulDTCTypeNameId = 6;
+    record.m_strDTCTypeName = "Emission related";
+    record.m_ulDTCTypeToolId = 7;
+    record.m_strDTCTypeTool = "Emission";
+    record.m_uchDTCStatus = 8;
+    record.m_ulDTCStatusNameId = 9;
+    record.m_strDTCStatusName = "Confirmed";
+    record.m_ulDTCStatusToolId = 10;
+    record.m_strDTCStatusTool = "Current";
+    record.m_bTripTime = true;
+    record.m_bFailTripTime = true;
+    Fill(record.m_cTripTime, content.items[0]);
+    record.m_bAfterIgOnTime = true;
+    record.m_bFailAfterIgOnTime = true;
+    Fill(record.m_cAfterIgOnTime, content.items[1]);
+    record.m_ulOriginalCountId = 11;
+    Fill(record.m_cClockType, content.items[2]);
+    record.m_bStatusOfDTC = true;
+    record.m_uchStatusOfDTC = 0x2F;
+    record.m_ulDTCGroupId = 12;
+}
+
+void Fill(proto::DTCData& record, const CodeContent& content) {
+    record.set_dtc_kind(1);
+    record.set_dtc_code(content.code);
+    record.set_dtc(content.text);
+    record.set_dtc_name_id(content.code + 1);
+    record.set_dtc_name(content.name);
+    record.set_dtc_div_name_id(content.code + 2);
+    record.set_dtc_div_name("Powertrain");
+    record.set_ffd_type(3);
+    record.set_ffd_id(4);
+    record.set_comment(content.comment);
+    for (unsigned number = 1; number <= 2; ++number) {
+        record.add_ssr_no(number);
+        record.add_sdr_no(number);
+    }
+    record.set_dtc_type(5);
+    record.set_dtc_type_name_id(6);
+    record.set_dtc_type_name("Emission related");
+    record.set_dtc_type_tool_id(7);
+    record.set_dtc_type_tool("Emission");
+    record.set_dtc_status(8);
+    record.set_dtc_status_name_id(9);
+    record.set_dtc_status_name("Confirmed");
+    record.set_dtc_status_tool_id(10);
+    record.set_dtc_status_tool("Current");
+    record.set_is_trip_time(true);
+    record.set_fail_trip_time(true);
+    Fill(*record.mutable_trip_time(), content.items[0]);
+    record.set_is_after_ig_on_time(true);
+    record.set_fail_after_ig_on_time(true);
+    Fill(*record.mutable_after_ig_on_time(), content.items[1]);
+    record.set_original_count_id(11);
+    Fill(*record.mutable_clock_type(), content.items[2]);
+    record.set_is_status_of_dtc(true);
+    record.set_status_of_dtc(0x2F);
+    record.set_dtc_group_id(12);
+}
+
+void FillHead(Answer& answer) {
+    answer.m_bNotSupport = true;
+    answer.m_bDTCType = true;
+    answer.m_ulReadynessStatus = 0x07E5;
+}
+
+/// Adds what `it` needs on the heap, at any depth.
+template <class T>
+void AddNeeded(T& it, std::size_t& bytes) {
+    if constexpr (std::is_same_v<T, CKRMString>) {
+        static const std::size_t inlineRoom = std::string().capacity();
+        bytes += it.GetLength() > inlineRoom ? it.GetLength() + 1 : 0;
+    } else if constexpr (krm::test::IsList<T>) {
+        struct Node {
+            std::remove_cvref_t<decltype(it.GetAt(0))> element;
+            void* next;
+            void* prev;
+        };
+        for (auto& element : it) {
+            bytes += sizeof(Node);
+            AddNeeded(element, bytes);
+        }
+    } else if constexpr (std::is_class_v<T>) {
+        krm::test::ForEachField(it, [&](auto& field) { AddNeeded(field, bytes); });
+    }
+}
+
+}  // namespace
+
+void Fill(Answer& answer, unsigned variant, int codes) {
+    FillHead(answer);
+    for (int i = 0; i < codes; ++i) {
+        Fill(Append(answer.Data), ContentOf(variant, i));
+    }
+}
+
+void Fill(ProtoAnswer& answer, unsigned variant, int codes) {
+    // A protobuf message has no type and ID of its own: they are fields like any other.
+    answer.set_command_type(1);
+    answer.set_command_id(2);
+    answer.set_not_support(true);
+    answer.set_has_dtc_type(true);
+    answer.set_readyness_status(0x07E5);
+    for (int i = 0; i < codes; ++i) {
+        Fill(*answer.add_data(), ContentOf(variant, i));
+    }
+}
+
+void FillByCopies(Answer& answer, unsigned variant, int codes) {
+    FillHead(answer);
+    for (int i = 0; i < codes; ++i) {
+        CKRMCCommandDTCData code;
+        Fill(code, ContentOf(variant, i));
+        answer.Data.AddTail(code);
+    }
+}
+
+std::size_t NeededBytes(Answer& answer) {
+    std::size_t bytes = 0;
+    AddNeeded(answer, bytes);
+    return bytes;
+}
+
+}  // namespace krm::bench

@@ -1,0 +1,50 @@
+// krm_bench: runs all workloads and prints the tables to standard output, progress to standard error.
+//
+// Takes the options of Google Benchmark, and --tables=FILE to write the tables to a file too.
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "benchmarks/table.h"
+#include "benchmarks/workload.h"
+
+int main(int argc, char** argv) {
+    krm::bench::RegisterConverters();
+    krm::bench::RegisterMessages();
+    krm::bench::RegisterLists();
+    krm::bench::RegisterTrees();
+    krm::bench::RegisterMemory();
+    krm::bench::RegisterGrowth();
+
+    benchmark::Initialize(&argc, argv);
+    std::string file;
+    for (int i = 1; i < argc; ++i) {
+        constexpr std::string_view kTables = "--tables=";
+        const std::string_view argument = argv[i];
+        if (!argument.starts_with(kTables)) {
+            std::cerr << "unknown option " << argument << '\n';
+            return 2;
+        }
+        file = argument.substr(kTables.size());
+    }
+
+    krm::bench::TableReporter reporter;
+    reporter.SetOutputStream(&std::cerr);
+    reporter.SetErrorStream(&std::cerr);
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+
+    reporter.Print(std::cout);
+    if (!file.empty()) {
+        std::ofstream out(file);
+        reporter.Print(out);
+        if (!out.flush()) {
+            std::cerr << "can't write " << file << '\n';
+            return 1;
+        }
+    }
+    return reporter.Failed() ? 1 : 0;
+}
