@@ -219,7 +219,10 @@ krm_ulong CKRMCCommandConvSignalData::PhysicalConversion(double* result, krm_ulo
     if (Divides(lDiv)) {
         scaled = scaled / static_cast<Extended>(krm_int64{lDiv});
     }
-    scaled = (scaled + static_cast<Extended>(krm_int64{lOffset})) / static_cast<Extended>(PowerOfTen(uchDecPntCount));
+    scaled = scaled + static_cast<Extended>(krm_int64{lOffset});
+    if (uchDecPntCount != 0) {  // a division by 1 changes nothing and takes as long as any
+        scaled = scaled / static_cast<Extended>(PowerOfTen(uchDecPntCount));
+    }
     *result = static_cast<double>(scaled);
     return 0;
 }

@@ -4,9 +4,11 @@
 #include <cstddef>
 
 #include "krm/convert/numbers.h"
+#include "krm/convert/short_text.h"
 
 using krm::kNullPointer;
 using krm::convert::BeginText;
+using krm::convert::ShortText;
 
 namespace {
 
@@ -59,7 +61,7 @@ krm_ulong CKRMCCommandConvSignalDataDiagCode::StringConversion(CKRMString* resul
     }
     const krm_ulong code = krm::convert::TruncateToLow32(dPhys);
     constexpr std::array<char, 4> kSystems = {'P', 'C', 'B', 'U'};  // powertrain, chassis, body, network
-    result->Format("%c%04X", kSystems[(code >> 14U) & 3U], static_cast<unsigned>(code & 0x3FFFU));
+    ShortText().Character(kSystems[(code >> 14U) & 3U]).Hexadecimal(code & 0x3FFFU, 4).AssignTo(*result);
     return 0;
 }
 
@@ -93,8 +95,11 @@ krm_ulong CKRMCCommandConvSignalDataSoftwareVersion::StringConversion(CKRMString
     if (!BeginText(result, stringId)) {
         return kNullPointer;
     }
-    result->Format("%X.%02X", static_cast<unsigned>((ulRawData >> 8U) & 0xFFU),
-                   static_cast<unsigned>(ulRawData & 0xFFU));
+    ShortText()
+        .Hexadecimal((ulRawData >> 8U) & 0xFFU)
+        .Character('.')
+        .Hexadecimal(ulRawData & 0xFFU, 2)
+        .AssignTo(*result);
     return 0;
 }
 

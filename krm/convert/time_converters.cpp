@@ -1,10 +1,12 @@
 #include "krm/convert/time_converters.h"
 
 #include "krm/convert/numbers.h"
+#include "krm/convert/short_text.h"
 #include "krm/convert/user_locale.h"
 
 using krm::kNullPointer;
 using krm::convert::BeginText;
+using krm::convert::ShortText;
 using krm::convert::TruncateToLow32;
 using krm::convert::UserLocale;
 
@@ -35,8 +37,14 @@ krm_ulong ThreeBytesText(CKRMString* result, krm_ulong* stringId, double physica
         return kNullPointer;
     }
     const krm_ulong value = TruncateToLow32(physical);
-    const auto twoDigits = [value](unsigned shift) { return static_cast<int>((value >> shift) & 0xFFU) % 100; };
-    result->Format("%02d.%02d.%02d", twoDigits(16), twoDigits(8), twoDigits(0));
+    const auto part = [value](unsigned shift) { return ((value >> shift) & 0xFFU) % 100; };
+    ShortText()
+        .Decimal(part(16), 2)
+        .Character('.')
+        .Decimal(part(8), 2)
+        .Character('.')
+        .Decimal(part(0), 2)
+        .AssignTo(*result);
     return 0;
 }
 
@@ -57,7 +65,7 @@ krm_ulong HoursAndMinutesValue(double* result, Physical physical) {
 }
 
 void ShowSpan(CKRMString& result, krm_ulong hours, krm_ulong minutes) {
-    result.Format("%dhrs,%dmin", static_cast<int>(hours), static_cast<int>(minutes));
+    ShortText().Decimal(hours).Words("hrs,").Decimal(minutes).Words("min").AssignTo(result);
 }
 
 krm_ulong RawValue(double* result, krm_ulong raw) {
@@ -122,7 +130,7 @@ krm_ulong CKRMCCommandConvSignalDataTimeHHMM::StringConversion(CKRMString* resul
         return kNullPointer;
     }
     const krm_ulong value = TruncateToLow32(dPhys);
-    result->Format("%02d:%02d", static_cast<int>(value >> 8U), static_cast<int>(value & 0xFFU));
+    ShortText().Decimal(value >> 8U, 2).Character(':').Decimal(value & 0xFFU, 2).AssignTo(*result);
     return 0;
 }
 

@@ -26,7 +26,10 @@ namespace krm {
 /// list and its iterator only.
 template <class T>
 struct ListNode {
-    T element{};
+    // Constructed in place: initialising the node as a whole would fill it with zeros before.
+    ListNode() : element() {}
+
+    T element;
     ListNode* next = nullptr;
     ListNode* prev = nullptr;
 
@@ -189,7 +192,7 @@ const CKRMList<T>& CKRMList<T>::operator=(const CKRMList<T>& other) {
 
 template <class T>
 std::unique_ptr<typename CKRMList<T>::Node> CKRMList<T>::NewNode(const T& element) {
-    auto node = std::make_unique<Node>();
+    std::unique_ptr<Node> node(new Node);
     node->element = element;
     return node;
 }

@@ -9,9 +9,45 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace krm::platform {
 namespace {
+
+/// What has been printed so far: on the stack while it is no longer than most lines, then in a string.
+class Output {
+public:
+    void Append(std::string_view text) {
+        if (text.size() > m_room.size() - m_length) {
+            m_spilled.append(m_room.data(), m_length);
+            m_length = 0;
+            if (text.size() > m_room.size()) {
+                m_spilled.append(text);
+                return;
+            }
+        }
+        std::memcpy(m_room.data() + m_length, text.data(), text.size());
+        m_length += text.size();
+    }
+    void Append(std::size_t count, char character) {
+        for (; count != 0; --count) {
+            Append({&character, 1});
+        }
+    }
+    void AssignTo(std::string& result) {
+        if (m_spilled.empty()) {
+            result.assign(m_room.data(), m_length);
+        } else {
+            m_spilled.append(m_room.data(), m_length);
+            result = std::move(m_spilled);
+        }
+    }
+
+private:
+    std::array<char, 512> m_room;
+    std::size_t m_length = 0;
+    std::string m_spilled;
+};
 
 /// One conversion specification, between its '%' and its letter.
 struct Conversion {
@@ -80,21 +116,21 @@ void ToUpper(char* first, const char* last) {
 }
 
 /// Appends `sign`, then zeros or blanks up to the width, then `digits`.
-void AppendPadded(std::string& out, const Conversion& conversion, std::string_view sign, std::string_view digits,
+void AppendPadded(Output& out, const Conversion& conversion, std::string_view sign, std::string_view digits,
                   bool zeroFill) {
     const std::size_t length = sign.size() + digits.size();
     const std::size_t width = conversion.width > 0 ? static_cast<std::size_t>(conversion.width) : 0;
     const std::size_t padding = width > length ? width - length : 0;
     if (!conversion.left && !zeroFill) {
-        out.append(padding, ' ');
+        out.Append(padding, ' ');
     }
-    out.append(sign);
+    out.Append(sign);
     if (!conversion.left && zeroFill) {
-        out.append(padding, '0');
+        out.Append(padding, '0');
     }
-    out.append(digits);
+    out.Append(digits);
     if (conversion.left) {
-        out.append(padding, ' ');
+        out.Append(padding, ' ');
     }
 }
 
@@ -105,7 +141,7 @@ std::string_view SignOf(const Conversion& conversion, bool negative) {
     return conversion.plus ? "+" : conversion.space ? " " : "";
 }
 
-void AppendInteger(std::string& out, const Conversion& conversion, std::uintmax_t magnitude, std::string_view sign) {
+void AppendInteger(Output& out, const Conversion& conversion, std::uintmax_t magnitude, std::string_view sign) {
     std::array<char, 24> buffer;  // 22 octal digits of 64 bits are the longest
     const int base = conversion.letter == 'o' ? 8 : conversion.letter == 'x' || conversion.letter == 'X' ? 16 : 10;
     char* const first = buffer.data();
@@ -184,7 +220,7 @@ char* WriteReal(char* first, char* end, const Conversion& conversion, double mag
     return last;
 }
 
-void AppendReal(std::string& out, const Conversion& conversion, double value) {
+void AppendReal(Output& out, const Conversion& conversion, double value) {
     const bool upper = conversion.letter >= 'A' && conversion.letter <= 'Z';
     std::string sign(SignOf(conversion, std::signbit(value)));
     if (!std::isfinite(value)) {
@@ -212,7 +248,7 @@ void AppendReal(std::string& out, const Conversion& conversion, double value) {
     AppendPadded(out, conversion, sign, {first, static_cast<std::size_t>(last - first)}, conversion.zero);
 }
 
-void AppendText(std::string& out, const Conversion& conversion, const char* text) {
+void AppendText(Output& out, const Conversion& conversion, const char* text) {
     if (text == nullptr) {
         text = "(null)";
     }
@@ -324,7 +360,7 @@ Conversion Parse(const char*& cursor, Arguments& arguments) {
     return conversion;
 }
 
-void AppendConversion(std::string& out, const Conversion& conversion, Arguments& arguments) {
+void AppendConversion(Output& out, const Conversion& conversion, Arguments& arguments) {
     switch (conversion.letter) {
         case 'd':
         case 'i': {
@@ -373,7 +409,7 @@ void AppendConversion(std::string& out, const Conversion& conversion, Arguments&
             break;
         default:
             if (conversion.letter != '\0') {  // "%%", and what no conversion is, print as their last character
-                out += conversion.letter;
+                out.Append({&conversion.letter, 1});
             }
             break;
     }
@@ -381,7 +417,8 @@ void AppendConversion(std::string& out, const Conversion& conversion, Arguments&
 
 }  // namespace
 
-void AppendFormatted(std::string& out, const char* format, std::va_list arguments) {
+void AssignFormatted(std::string& result, const char* format, std::va_list arguments) {
+    Output out;
     Arguments rest;
     va_copy(rest.list, arguments);
     const char* cursor = format;
@@ -390,7 +427,7 @@ void AppendFormatted(std::string& out, const char* format, std::va_list argument
         while (*cursor != '\0' && *cursor != '%') {
             ++cursor;
         }
-        out.append(plain, cursor);
+        out.Append({plain, static_cast<std::size_t>(cursor - plain)});
         if (*cursor == '\0') {
             break;
         }
@@ -399,18 +436,19 @@ void AppendFormatted(std::string& out, const char* format, std::va_list argument
         if (*cursor == 's') {
             ++cursor;
             const char* const text = va_arg(rest.list, const char*);
-            out.append(text == nullptr ? "(null)" : text);
+            out.Append(text == nullptr ? "(null)" : text);
         } else if (*cursor == 'd') {
             ++cursor;
             std::array<char, 12> digits;
             const std::to_chars_result end =
                 std::to_chars(digits.data(), digits.data() + digits.size(), va_arg(rest.list, int));
-            out.append(digits.data(), end.ptr);
+            out.Append({digits.data(), static_cast<std::size_t>(end.ptr - digits.data())});
         } else {
             AppendConversion(out, Parse(cursor, rest), rest);
         }
     }
     va_end(rest.list);
+    out.AssignTo(result);
 }
 
 }  // namespace krm::platform

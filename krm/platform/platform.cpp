@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <string>
-#include <utility>
 
 #include "krm/platform/format.h"
 
@@ -67,9 +66,7 @@ void CKRMString::Format(const char* format, ...) {
 }
 
 void CKRMString::FormatV(const char* format, std::va_list arguments) {
-    std::string text;
-    krm::platform::AppendFormatted(text, OrEmpty(format), arguments);
-    m_text = std::move(text);
+    krm::platform::AssignFormatted(m_text, OrEmpty(format), arguments);
 }
 
 CKRMBaseAdaptationData::~CKRMBaseAdaptationData() = default;

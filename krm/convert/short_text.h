@@ -1,0 +1,56 @@
+// Texts of a few characters and numbers, put together without a format to interpret. Part of the library's inside.
+#ifndef KRM_CONVERT_SHORT_TEXT_H_
+#define KRM_CONVERT_SHORT_TEXT_H_
+
+#include <array>
+#include <cstddef>
+
+#include "krm/platform/platform.h"
+
+namespace krm::convert {
+
+/// A text under construction; each operation appends. Has room for what the converters show: two numbers of 32 bits and
+/// the words around them.
+class ShortText {
+public:
+    ShortText& Character(char character) {
+        m_text[m_length++] = character;
+        return *this;
+    }
+    ShortText& Words(const char* words) {
+        for (; *words != '\0'; ++words) {
+            Character(*words);
+        }
+        return *this;
+    }
+    /// At least `width` digits, filled with zeros.
+    ShortText& Decimal(krm_ulong number, std::size_t width = 1) { return Digits(number, 10, width); }
+    /// The same in upper-case hexadecimal.
+    ShortText& Hexadecimal(krm_ulong number, std::size_t width = 1) { return Digits(number, 16, width); }
+
+    void AssignTo(CKRMString& result) {
+        m_text[m_length] = '\0';
+        result = m_text.data();
+    }
+
+private:
+    ShortText& Digits(krm_ulong number, krm_ulong base, std::size_t width) {
+        std::array<char, 10> reversed;  // of 32 bits, and no width is larger
+        std::size_t count = 0;
+        do {
+            reversed[count++] = "0123456789ABCDEF"[number % base];
+            number /= base;
+        } while (number != 0 || count < width);
+        while (count != 0) {
+            Character(reversed[--count]);
+        }
+        return *this;
+    }
+
+    std::array<char, 32> m_text;
+    std::size_t m_length = 0;
+};
+
+}  // namespace krm::convert
+
+#endif  // KRM_CONVERT_SHORT_TEXT_H_
