@@ -1,12 +1,20 @@
 #include "krm/convert/numbers.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstring>
+#include <string_view>
 
 namespace krm::convert {
 
 DecimalText::DecimalText(double value, unsigned char decimals) {
     char* const first = m_text.data();
+    if (std::isnan(value)) {  // some libraries' to_chars adds which kind of NaN it is
+        const std::string_view name = std::signbit(value) ? "-nan" : "nan";
+        *std::copy(name.begin(), name.end(), first) = '\0';
+        return;
+    }
     *std::to_chars(first, first + m_text.size() - 1, value, std::chars_format::fixed, decimals).ptr = '\0';
 }
 
