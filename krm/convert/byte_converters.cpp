@@ -1,7 +1,7 @@
 #include "krm/convert/byte_converters.h"
 
-#include <array>
 #include <cstddef>
+#include <string>
 
 #include "krm/convert/numbers.h"
 
@@ -39,17 +39,13 @@ krm_ulong CKRMCCommandConvSignalDataArrayHex::ConvCommandDispData(CKRMCCommandDi
         return kNullPointer;
     }
     constexpr const char* kDigits = "0123456789ABCDEF";
-    // Appended in pieces, so that a long array is neither cut nor grown byte by byte.
-    std::array<char, 512 + 1> piece;
-    std::size_t length = 0;
+    // Whole before it is appended: the bytes may be those of the record's own text.
+    std::string digits;
+    digits.reserve(std::size_t{dataLen} * 2);
     for (krm_ulong i = 0; i < dataLen; ++i) {
-        piece[length++] = kDigits[data[i] >> 4U];
-        piece[length++] = kDigits[data[i] & 0xFU];
-        if (length == piece.size() - 1 || i + 1 == dataLen) {
-            piece[length] = '\0';
-            record->m_strDataPhys += piece.data();
-            length = 0;
-        }
+        digits += kDigits[data[i] >> 4U];
+        digits += kDigits[data[i] & 0xFU];
     }
+    record->m_strDataPhys += digits.c_str();
     return 0;
 }

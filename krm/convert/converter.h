@@ -25,7 +25,7 @@ inline constexpr krm_ulong kNullPointer = 1100100001;
 /// A converter keeps nothing between calls; distinct converters may be used by different threads. Operations return 0, or
 /// krm::kNullPointer; a composite operation returns the first code that a step of it returned and skips the steps behind.
 /// Every step is a virtual call, so that a class that overrides one changes all that use it. The order of the virtual
-/// operations is part of the interface.
+/// operations is part of the interface. Nothing throws but a std::bad_alloc of a text that is assigned.
 ///
 /// Arguments that mean the same everywhere:
 ///  - `ulRawData`: the raw value, cut out of the response and right-aligned.

@@ -1,9 +1,12 @@
 #include "krm/convert/numbers.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 namespace krm::convert {
 
@@ -55,7 +58,10 @@ DecimalText::DecimalText(double value, unsigned char decimals) {
     char* const first = m_text.data();
     char* const last = first + m_text.size() - 1;
     char* end = WriteShortDecimal(value, decimals, first, last);
-    if (end == nullptr) {
+    if (end == nullptr && std::isnan(value)) {  // some libraries' to_chars adds which kind of NaN it is
+        const std::string_view name = std::signbit(value) ? "-nan" : "nan";
+        end = std::copy(name.begin(), name.end(), first);
+    } else if (end == nullptr) {
         end = std::to_chars(first, last, value, std::chars_format::fixed, decimals).ptr;
     }
     *end = '\0';

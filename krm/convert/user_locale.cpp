@@ -9,6 +9,10 @@
 #define NOMINMAX
 #endif
 #include <windows.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
 #else
 #include <locale.h>
 #include <clocale>
@@ -38,6 +42,29 @@ std::shared_ptr<const UserLocale> UserLocale::Create() noexcept {
 // Windows formats by locale identifier: there is nothing to release. The C library's _strftime_l writes the same, but not
 // every compiler's library has it.
 
+namespace {
+
+/// The locale's picture of a short date, "M/d/yyyy", with `day` in the place of the day. Empty where there is none.
+std::string PictureWithDay(LCID locale, int day) {
+    Text picture{};
+    GetLocaleInfoA(locale, LOCALE_SSHORTDATE, picture.data(), static_cast<int>(picture.size()));
+    std::string withDay;
+    bool quoted = false;
+    for (const char* p = picture.data(); *p != '\0';) {
+        quoted = quoted != (*p == '\'');
+        const std::size_t days = quoted ? 0 : std::strspn(p, "d");
+        if (days == 1 || days == 2) {  // three and four mean the day of the week
+            withDay += std::to_string(day);
+        } else {
+            withDay.append(p, days == 0 ? 1 : days);
+        }
+        p += days == 0 ? 1 : days;
+    }
+    return withDay;
+}
+
+}  // namespace
+
 UserLocale::UserLocale() : m_handle(reinterpret_cast<void*>(static_cast<UINT_PTR>(GetUserDefaultLCID()))) {}
 
 UserLocale::~UserLocale() = default;
@@ -49,8 +76,14 @@ bool UserLocale::Write(CalendarDay day, CKRMString& result) const {
     time.wDay = static_cast<WORD>(day.day);
     Text text;
     const auto locale = static_cast<LCID>(reinterpret_cast<UINT_PTR>(m_handle));
-    if (GetDateFormatA(locale, DATE_SHORTDATE, &time, nullptr, text.data(), static_cast<int>(text.size())) == 0) {
-        return false;
+    const int size = static_cast<int>(text.size());
+    if (GetDateFormatA(locale, DATE_SHORTDATE, &time, nullptr, text.data(), size) == 0) {
+        // Windows refuses the 31st of February, which elsewhere is shown as it was sent.
+        time.wDay = 1;
+        const std::string picture = PictureWithDay(locale, day.day);
+        if (picture.empty() || GetDateFormatA(locale, 0, &time, picture.c_str(), text.data(), size) == 0) {
+            return false;
+        }
     }
     result = text.data();
     return true;

@@ -57,7 +57,7 @@ public:
     /// Without a block it counts: `src` is not read, the cursor advances, wrapping at 2^32, and the result is true.
     bool Write(const void* src, unsigned int n);
 
-    /// The block's size in bytes; 0 without one.
+    /// The block's size in bytes; 0 without one, unless SetBuffer gave a size to a null block.
     unsigned int GetSize() const;
     /// The cursor: the offset in bytes at which the next Read or Write begins. Beyond the size only while counting.
     unsigned int GetPos() const;

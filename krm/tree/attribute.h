@@ -64,8 +64,8 @@ public:
 
 protected:
     krm_ulong m_ulValueType;
-    void*
-        m_pValue;  // owned: a CKRMString from `new` for a text, else plain memory from `operator new`; null while empty
+    // Owned: a CKRMString from `new` for a text, else plain memory from `operator new`; null while empty.
+    void* m_pValue;
 
 private:
     template <class T>

@@ -8,7 +8,7 @@
 //
 // Every operation that can fail takes a CKRMError first and sets its code: 0 on success, else one of the codes below,
 // with empty details. A null error object is allowed; the failure then shows in the result alone. No such operation
-// throws; only Description lets a std::bad_alloc of its text pass.
+// throws; only Description, and a constructor whose name can't be copied, let a std::bad_alloc pass.
 //
 // One tree is used by one thread at a time; distinct trees are independent.
 #ifndef KRM_TREE_NODE_H_

@@ -443,6 +443,19 @@ TEST(ArrayHexText, IsAppended) {
     EXPECT_EQ(record.m_ulRawData, 0U);
 }
 
+TEST(ArrayHexText, TheBytesMayBeTheRecordsOwnText) {
+    const std::string text(3000, 'J');
+    std::string expected = text;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        expected += "4A";
+    }
+    CKRMCCommandDispData record;
+    record.m_strDataPhys = text.c_str();
+    const auto* own = reinterpret_cast<const unsigned char*>(record.m_strDataPhys.GetText());
+    EXPECT_EQ(Create(104)->ConvCommandDispData(&record, own, 3000, 0, 8, 1, 1, 0, 0, 0, 0, nullptr), 0U);
+    EXPECT_EQ(record.m_strDataPhys.GetText(), expected);
+}
+
 TEST(ArrayHexText, HasNoLengthLimit) {
     std::vector<unsigned char> data;
     std::string expected;

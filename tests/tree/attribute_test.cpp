@@ -441,6 +441,27 @@ TEST(Attribute, SettersClearThroughTheVirtualOperation) {
     EXPECT_EQ(5, attribute.clears);
 }
 
+/// An attribute that remembers how many blocks there were when it was cleared.
+class CountingBlocks : public CKRMCAttribute {
+public:
+    using CKRMCAttribute::CKRMCAttribute;
+    bool ClearValue() override {
+        blocksWhenCleared = LivingBlocks();
+        return CKRMCAttribute::ClearValue();
+    }
+    long blocksWhenCleared = 0;
+};
+
+TEST(Attribute, ANumberGoesBeforeTheTextIsMade) {
+    KRM_SKIP_WITHOUT_FAILING_ALLOCATIONS();
+    CountingBlocks attribute("A", krm_long(7));
+    const long blocks = LivingBlocks();
+    EXPECT_TRUE(attribute.SetValue(nullptr, kLongText));
+    EXPECT_EQ(blocks, attribute.blocksWhenCleared);
+    EXPECT_GT(LivingBlocks(), blocks);  // text and its memory in the place of the number
+    EXPECT_STREQ(kLongText, attribute.GetString());
+}
+
 TEST(Attribute, ACopySharesValueAndFollowers) {
     CKRMCAttribute original("A", "x");
     auto* const follower = new CKRMCAttribute("B");
