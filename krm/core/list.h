@@ -20,6 +20,22 @@
 /// element is removed.
 struct _SKRMPOSITION;
 
+namespace krm {
+
+/// A node of a list: one heap block. The element comes first, so that the node's address is the element's too. For the
+/// list and its iterator only.
+template <class T>
+struct ListNode {
+    T element{};
+    ListNode* next = nullptr;
+    ListNode* prev = nullptr;
+
+    static ListNode* Of(_SKRMPOSITION* position) { return reinterpret_cast<ListNode*>(position); }
+    static _SKRMPOSITION* ToPosition(ListNode* node) { return reinterpret_cast<_SKRMPOSITION*>(node); }
+};
+
+}  // namespace krm
+
 /// Doubly linked list that owns its elements.
 ///
 /// `T` needs a default constructor, copy construction, copy assignment and a destructor. A new element is
@@ -85,17 +101,7 @@ public:
     KRM_TEMPLATE_MEMBER T* GetAtPtr(int index);
 
 private:
-    friend struct CKRMListAccess;
-
-    // The element comes first, so that the node's address is the element's too.
-    struct Node {
-        T element{};
-        Node* next = nullptr;
-        Node* prev = nullptr;
-    };
-
-    KRM_TEMPLATE_PRIVATE static Node* ToNode(_SKRMPOSITION* position) { return reinterpret_cast<Node*>(position); }
-    KRM_TEMPLATE_PRIVATE static _SKRMPOSITION* ToPosition(Node* node) { return reinterpret_cast<_SKRMPOSITION*>(node); }
+    using Node = krm::ListNode<T>;
 
     KRM_TEMPLATE_PRIVATE static std::unique_ptr<Node> NewNode(const T& element);
     KRM_TEMPLATE_PRIVATE void Append(Node* node);
@@ -104,18 +110,6 @@ private:
     int m_count;
     Node* m_head;
     Node* m_tail;
-};
-
-/// Gives the range-for functions below the links between nodes; nothing else uses it.
-struct CKRMListAccess {
-    template <class T>
-    static T* ElementAt(_SKRMPOSITION* position) {
-        return &CKRMList<T>::ToNode(position)->element;
-    }
-    template <class T>
-    static _SKRMPOSITION* Next(_SKRMPOSITION* position) {
-        return CKRMList<T>::ToPosition(CKRMList<T>::ToNode(position)->next);
-    }
 };
 
 /// Forward iterator of range-for; `Element` is `T` or `const T`. Valid as long as the position it stands on.
@@ -131,10 +125,10 @@ public:
     CKRMListIterator() = default;
     explicit CKRMListIterator(_SKRMPOSITION* position) : m_position(position) {}
 
-    reference operator*() const { return *CKRMListAccess::ElementAt<value_type>(m_position); }
+    reference operator*() const { return Node::Of(m_position)->element; }
     pointer operator->() const { return &**this; }
     CKRMListIterator& operator++() {
-        m_position = CKRMListAccess::Next<value_type>(m_position);
+        m_position = Node::ToPosition(Node::Of(m_position)->next);
         return *this;
     }
     CKRMListIterator operator++(int) {
@@ -147,6 +141,8 @@ public:
     }
 
 private:
+    using Node = krm::ListNode<value_type>;
+
     _SKRMPOSITION* m_position = nullptr;
 };
 
@@ -214,7 +210,7 @@ template <class T>
 _SKRMPOSITION* CKRMList<T>::AddTail(const T& element) {
     Node* const node = NewNode(element).release();
     Append(node);
-    return ToPosition(node);
+    return Node::ToPosition(node);
 }
 
 template <class T>
@@ -289,26 +285,26 @@ KRM_TEMPLATE_INLINE int CKRMList<T>::GetCount() const {
 
 template <class T>
 KRM_TEMPLATE_INLINE _SKRMPOSITION* CKRMList<T>::GetHeadPosition() const {
-    return ToPosition(m_head);
+    return Node::ToPosition(m_head);
 }
 
 template <class T>
 KRM_TEMPLATE_INLINE _SKRMPOSITION* CKRMList<T>::GetTailPosition() const {
-    return ToPosition(m_tail);
+    return Node::ToPosition(m_tail);
 }
 
 // Loads the position, steps it and stores it back; never through a reference of another type.
 template <class T>
 KRM_TEMPLATE_INLINE T* CKRMList<T>::GetNextPtr(_SKRMPOSITION*& position) const {
-    Node* const node = ToNode(position);
-    position = ToPosition(node->next);
+    Node* const node = Node::Of(position);
+    position = Node::ToPosition(node->next);
     return &node->element;
 }
 
 template <class T>
 KRM_TEMPLATE_INLINE T* CKRMList<T>::GetPrevPtr(_SKRMPOSITION*& position) const {
-    Node* const node = ToNode(position);
-    position = ToPosition(node->prev);
+    Node* const node = Node::Of(position);
+    position = Node::ToPosition(node->prev);
     return &node->element;
 }
 

@@ -622,7 +622,7 @@ TEST(MessageAsTest, GivesNullForAnotherFamilyOrId) {
     EXPECT_EQ(krm::MessageAs<ViewerRequest>(message), nullptr);
     EXPECT_EQ(krm::MessageAs<WordsAnswer>(message), nullptr);
     EXPECT_EQ(krm::MessageAs<UnitAnswer>(message), nullptr);
-    CKRMCBaseCmdAdaptDataSnd base(2);
+    CKRMCBaseCmdAdaptDataSnd base(Request::kCommandId + 1);
     message = &base;
     EXPECT_EQ(krm::MessageAs<Request>(message), nullptr);
     message = nullptr;

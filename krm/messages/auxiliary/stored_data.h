@@ -123,14 +123,14 @@ class KRM_API CKRMCStoredDataSystemData {
 public:
     void Clear() { *this = CKRMCStoredDataSystemData(); }
 
-    unsigned short m_ushGroupId = 0;                ///< group that the system belongs to
-    CKRMString m_strGroupName;                      ///< name of the group
-    krm_ulong m_ulSystemId = 0;                     ///< the system
-    CKRMString m_strSystem;                         ///< name of the system
-    CKRMCGetDTCCmdAdaptDataRcv m_cDTC;              ///< trouble codes
-    CKRMList<CKRMCStoredDataFFD> m_cFFDList;        ///< freeze frames
-    CKRMCIsAbsFFDCmdAdaptDataRcv m_cIsAbsFFD;       ///< whether there are freeze frames with absolute time
-    CKRMList<CKRMCStoredDataAbsFFD> m_cAbsFFDList;  ///< freeze frames with absolute time
+    unsigned short m_ushGroupId = 0;                              ///< group that the system belongs to
+    CKRMString m_strGroupName;                                    ///< name of the group
+    krm_ulong m_ulSystemId = 0;                                   ///< the system
+    CKRMString m_strSystem;                                       ///< name of the system
+    CKRMCGetDTCCmdAdaptDataRcv m_cDTC;                            ///< trouble codes
+    CKRMList<CKRMCStoredDataFFD> m_cFFDList;                      ///< freeze frames
+    CKRMCIsAbsFFDCmdAdaptDataRcv m_cIsAbsFFD;                     ///< systems that have some with absolute time
+    CKRMList<CKRMCStoredDataAbsFFD> m_cAbsFFDList;                ///< freeze frames with absolute time
     CKRMCGetDataMonitorValueCmdAdaptDataRcv m_cDataMonitorValue;  ///< values of the data monitor
 };
 extern template class CKRMList<CKRMCStoredDataSystemData>;
@@ -149,7 +149,7 @@ public:
 extern template class CKRMList<CKRMCStoredDataImportFileData>;
 
 /// What the messages of this family share beyond MessageOf: they write nothing to the operation log, not even type and
-/// ID, so that no content of a file ends up there. Adds no data member and no virtual operation.
+/// ID. Adds no data member and no virtual operation.
 template <class Message, class Direction, krm_ulong id>
 class StoredDataMessageOf : public MessageOf<Message, Direction, id> {
 public:

@@ -123,6 +123,7 @@ krm_long CKRMCGetUtilityListCmdAdaptDataSnd::ErrWriteOperationLog() {
 krm_long CKRMCGetUtilityListCmdAdaptDataRcv::ErrWriteOperationLog() {
     const auto line = krm::BeginDump(*this, "CKRMCGetUtilityListCmdAdaptDataRcv::ErrWriteOperationLog");
     line("[%s] Data[%d]", Data);
+    // The parameters go under the name Data too, counted from 0 again.
     line.ForEach(m_cJ2534ConfigList, [](const auto& itemLine, auto& config) {
         itemLine("[%s] Data[%d].m_ulParameter=%d", config.m_ulParameter);
         itemLine("[%s] Data[%d].m_ulValue=%d", config.m_ulValue);

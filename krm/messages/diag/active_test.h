@@ -52,7 +52,7 @@ public:
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushId = 0;                          ///< active test ID
-    unsigned short m_ushRoutineActSpecId = 0;            ///< ID of the routine's activation
+    unsigned short m_ushRoutineActSpecId = 0;            ///< ID of the routine's activation specification
     krm_ulong m_ulNameId = 0;                            ///< words ID of the name
     CKRMString m_strName;                                ///< name
     CKRMString m_strActiveTestText;                      ///< second text; stored and copied, never logged
@@ -73,7 +73,7 @@ public:
     krm_ulong m_ulCommentId = 0;                         ///< words ID of the comment text
     CKRMCCommandDispData m_cInitialData;                 ///< initial value
     CKRMCCommandDispData m_cResolutionData;              ///< resolution
-    unsigned char m_uchDataType = 0;                     ///< conversion type of the value
+    unsigned char m_uchDataType = 0;                     ///< data type of the value, as the converters take it
     unsigned char m_uchDecPntCount = 0;                  ///< decimal places
     unsigned char m_uchUnitConvDecPntCount = 0;          ///< decimal places after unit conversion
     CKRMCCommandConversionData m_cConversionTbl;         ///< conversion of the value
@@ -115,7 +115,7 @@ public:
     krm_ulong m_ulNTA = 0;                      ///< network target address
     krm_ulong m_ulToolAddr = 0;                 ///< address of the tool
     unsigned char m_uchSecurityTargetFlag = 0;  ///< not 0: the function is subject to security
-    krm_ulong m_ulSpecialFunctionKey = 0;       ///< special function key that unlocks it
+    krm_ulong m_ulSpecialFunctionKey = 0;       ///< special function key
     krm_ulong m_ulLegislatedAddr = 0;           ///< legislated address
     krm_ulong m_ulP3Min = 0;                    ///< timing value P3min
     krm_ulong m_ulStminTx = 0;                  ///< timing value STmin when sending
@@ -149,7 +149,7 @@ public:
     CKRMString m_strName;                    ///< name of the list
     unsigned short m_ushDataType = 0;        ///< kind of data that it lists
     unsigned short m_ushSortIndex = 0;       ///< place among the lists
-    unsigned char m_uchInitialDispFlag = 0;  ///< not 0: shown first
+    unsigned char m_uchInitialDispFlag = 0;  ///< not 0: displayed initially
 };
 extern template class CKRMList<CKRMCCommandCustomListData>;
 
@@ -172,11 +172,11 @@ public:
     void Clear() { *this = CKRMCDrivingData(); }
 
     unsigned char m_uchType = 0;  ///< kind of value; the codes are the engine's
-    double m_dData = 0;           ///< physical value
+    double m_dData = 0;           ///< the value
 };
 extern template class CKRMList<CKRMCDrivingData>;
 
-/// GetUtilityList (26) asks for the utility functions that the user may run.
+/// GetUtilityList asks for the utility functions.
 class KRM_API CKRMCGetUtilityListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetUtilityListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetUtilityList")> {
@@ -184,8 +184,8 @@ public:
     krm_long ErrWriteOperationLog() override;
 
     unsigned char m_uchConnectLevel = 0;            ///< level of the connection; the codes are the engine's
-    krm_ulong m_ulSecurityLevel = 0;                ///< security level of the user; the codes are the engine's
-    CKRMList<krm_ulong> m_cSpecialFunctionKeyList;  ///< special function keys that the user has
+    krm_ulong m_ulSecurityLevel = 0;                ///< security level; the codes are the engine's
+    CKRMList<krm_ulong> m_cSpecialFunctionKeyList;  ///< special function keys; logged under the name Data
 };
 
 /// Answers with the utility functions and the parameters of the J2534 interface for them.
@@ -196,10 +196,10 @@ public:
     krm_long ErrWriteOperationLog() override;
 
     CKRMList<CKRMCCommandUtilityData> Data;                ///< utility functions
-    CKRMList<CKRMCCommandJ2534Config> m_cJ2534ConfigList;  ///< parameters of the J2534 interface
+    CKRMList<CKRMCCommandJ2534Config> m_cJ2534ConfigList;  ///< J2534 parameters; logged under the name Data too
 };
 
-/// GetCustomList (28) asks for the lists that the user has put together.
+/// GetCustomList asks for the lists that the user has put together.
 class KRM_API CKRMCGetCustomListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCustomListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCustomList")> {
@@ -217,7 +217,7 @@ public:
     CKRMList<CKRMCCommandCustomListData> Data;  ///< the lists
 };
 
-/// StartActiveTest (32) asks to drive an actuator.
+/// StartActiveTest asks to drive an actuator.
 class KRM_API CKRMCStartActiveTestCmdAdaptDataSnd
     : public MessageOf<CKRMCStartActiveTestCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "StartActiveTest")> {
@@ -238,7 +238,7 @@ public:
     ~CKRMCStartActiveTestCmdAdaptDataRcv() override;
 };
 
-/// GetActiveTestList (34) asks for the active tests of an ECU.
+/// GetActiveTestList asks for the active tests of an ECU.
 class KRM_API CKRMCGetActiveTestListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetActiveTestListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetActiveTestList")> {
@@ -259,7 +259,7 @@ public:
     CKRMList<CKRMCCommandActiveTestData> Data;  ///< active tests
 };
 
-/// CheckActiveTestAssumption (37) asks whether the conditions of an active test are met.
+/// CheckActiveTestAssumption asks whether the conditions of an active test are met.
 class KRM_API CKRMCCheckActiveTestAssumptionCmdAdaptDataSnd
     : public MessageOf<CKRMCCheckActiveTestAssumptionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "CheckActiveTestAssumption")> {
@@ -280,7 +280,7 @@ public:
     krm_ulong m_ulHelpId = 0;          ///< help ID
 };
 
-/// SetActiveTestSession (38) asks to change the session for an active test.
+/// SetActiveTestSession asks to change the session for an active test.
 class KRM_API CKRMCSetActiveTestSessionCmdAdaptDataSnd
     : public MessageOf<CKRMCSetActiveTestSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "SetActiveTestSession")> {
@@ -299,7 +299,7 @@ public:
     ~CKRMCSetActiveTestSessionCmdAdaptDataRcv() override;
 };
 
-/// GetSpOperateCtrlRecordGroup (66) asks for the groups of special operation control records.
+/// GetSpOperateCtrlRecordGroup asks for the groups of special operation control records.
 class KRM_API CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataSnd
     : public MessageOf<CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetSpOperateCtrlRecordGroup")> {
@@ -317,7 +317,7 @@ public:
     CKRMList<CKRMCSpGroup> Data;  ///< groups
 };
 
-/// GetSpOperateCtrlRecord (67) asks for the special operation control records of a group.
+/// GetSpOperateCtrlRecord asks for the special operation control records of a group.
 class KRM_API CKRMCGetSpOperateCtrlRecordCmdAdaptDataSnd
     : public MessageOf<CKRMCGetSpOperateCtrlRecordCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetSpOperateCtrlRecord")> {
@@ -337,7 +337,7 @@ public:
     CKRMList<CKRMCCommandFFDData> m_cSpOperateList;  ///< records
 };
 
-/// WriteDataItem (91) asks to write single items of an ECU.
+/// WriteDataItem asks to write single items of an ECU.
 class KRM_API CKRMCWriteDataItemCmdAdaptDataSnd
     : public MessageOf<CKRMCWriteDataItemCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "WriteDataItem")> {
@@ -355,7 +355,7 @@ public:
     ~CKRMCWriteDataItemCmdAdaptDataRcv() override;
 };
 
-/// GetSpecialFunctionKeyList (94) asks for the special function keys.
+/// GetSpecialFunctionKeyList asks for the special function keys.
 class KRM_API CKRMCGetSpecialFunctionKeyListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetSpecialFunctionKeyListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetSpecialFunctionKeyList")> {

@@ -39,7 +39,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandCancelCodeData>;
 
-/// A category of cancel codes, with the warning that is shown before they are read.
+/// A category of cancel codes and its warning.
 class KRM_API CKRMCCommandCancelCodeCategoryInfo : public RecordOf<CKRMCCommandCancelCodeCategoryInfo> {
 public:
     ~CKRMCCommandCancelCodeCategoryInfo() override;
@@ -68,7 +68,7 @@ public:
     CKRMString m_strUnitPhys;                     ///< physical unit
     krm_ulong m_ulUnitId = 0;                     ///< words ID of the display unit
     CKRMString m_strUnit;                         ///< display unit
-    unsigned char m_uchDataType = 0;              ///< conversion type of the value
+    unsigned char m_uchDataType = 0;              ///< data type of the value, as the converters take it
     unsigned char m_uchDecPntCount = 0;           ///< decimal places
     unsigned char m_uchUnitConvDecPntCount = 0;   ///< decimal places after unit conversion
     CKRMCCommandConversionData m_cConversionTbl;  ///< conversion of the value
@@ -172,7 +172,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandCanBusCategoryListData>;
 
-/// GetCanBusCategoryList (56) asks for the ECUs whose communication can be checked.
+/// GetCanBusCategoryList asks for the ECUs whose communication can be checked.
 class KRM_API CKRMCGetCanBusCategoryListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCanBusCategoryListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCanBusCategoryList")> {
@@ -190,7 +190,7 @@ public:
     CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs
 };
 
-/// GetCanBusCheckList (57) asks to check the communication of the given ECUs.
+/// GetCanBusCheckList asks to check the communication of the given ECUs.
 class KRM_API CKRMCGetCanBusCheckListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCanBusCheckListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCanBusCheckList")> {
@@ -211,7 +211,7 @@ public:
     CKRMList<CKRMCCommandCanBusCategoryListData> Hist;  ///< history
 };
 
-/// GetCustomizeSupportList (59) asks what can be customised.
+/// GetCustomizeSupportList asks what can be customised.
 class KRM_API CKRMCGetCustomizeSupportListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCustomizeSupportListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCustomizeSupportList")> {
@@ -229,7 +229,7 @@ public:
     CKRMList<CKRMCCommandCustomizeName> Data;  ///< names
 };
 
-/// GetCustomizeItemList (60) asks for the items of one customisation.
+/// GetCustomizeItemList asks for the items of one customisation.
 class KRM_API CKRMCGetCustomizeItemListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCustomizeItemListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCustomizeItemList")> {
@@ -238,7 +238,7 @@ public:
 
     unsigned short m_ushCustomizeId = 0;            ///< customisation ID
     bool m_bGetCurrentValue = false;                ///< current values are asked for too
-    CKRMList<krm_ulong> m_cSpecialFunctionKeyList;  ///< special function keys that the user has
+    CKRMList<krm_ulong> m_cSpecialFunctionKeyList;  ///< special function keys; logged under the name Data
     krm_ulong m_ulPersonalizeId = 0;                ///< whose settings are meant; the IDs are the engine's
 };
 
@@ -252,7 +252,7 @@ public:
     CKRMList<CKRMCCommandCustomizeItemData> Data;  ///< items
 };
 
-/// SetCustomizeItem (61) asks to give items new values.
+/// SetCustomizeItem asks to give items new values.
 class KRM_API CKRMCSetCustomizeItemCmdAdaptDataSnd
     : public MessageOf<CKRMCSetCustomizeItemCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "SetCustomizeItem")> {
@@ -272,7 +272,7 @@ public:
     CKRMList<CKRMCCommandCustomizeItemResult> Data;  ///< a result per item
 };
 
-/// GetCustomizeDestination (69) asks for the destination that the vehicle is set to.
+/// GetCustomizeDestination asks for the destination that the vehicle is set to.
 class KRM_API CKRMCGetCustomizeDestinationCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCustomizeDestinationCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCustomizeDestination")> {
@@ -292,7 +292,7 @@ public:
     CKRMString m_strDestinationDisp;      ///< text shown for it
 };
 
-/// SetCustomizeDestination (70) asks to set the destination.
+/// SetCustomizeDestination asks to set the destination.
 class KRM_API CKRMCSetCustomizeDestinationCmdAdaptDataSnd
     : public MessageOf<CKRMCSetCustomizeDestinationCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "SetCustomizeDestination")> {
@@ -312,7 +312,7 @@ public:
     bool m_bInvalidCode = false;  ///< the code is not a valid one
 };
 
-/// OnBoardMonitor (74) asks for the test results of on-board monitors.
+/// OnBoardMonitor asks for the test results of on-board monitors.
 class KRM_API CKRMCOnBoardMonitorCmdAdaptDataSnd
     : public MessageOf<CKRMCOnBoardMonitorCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "OnBoardMonitor")> {
@@ -332,7 +332,7 @@ public:
     CKRMList<CKRMCCommandOnBoardMonitorInfo> Data;  ///< results
 };
 
-/// GetCancelCodeCategoryList (75) asks for the categories of cancel codes.
+/// GetCancelCodeCategoryList asks for the categories of cancel codes.
 class KRM_API CKRMCGetCancelCodeCategoryListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCancelCodeCategoryListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCancelCodeCategoryList")> {
@@ -350,7 +350,7 @@ public:
     CKRMList<CKRMCCommandCancelCodeCategoryInfo> Data;  ///< categories
 };
 
-/// GetCancelCode (76) asks for the cancel codes of a category.
+/// GetCancelCode asks for the cancel codes of a category.
 class KRM_API CKRMCGetCancelCodeCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCancelCodeCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCancelCode")> {
@@ -367,12 +367,12 @@ class KRM_API CKRMCGetCancelCodeCmdAdaptDataRcv
 public:
     krm_long ErrWriteOperationLog() override;
 
-    CKRMList<CKRMCCommandDTCData> m_cDTCList;   ///< trouble codes (DTC)
+    CKRMList<CKRMCCommandDTCData> m_cDTCList;   ///< trouble codes (DTC); logged under the name Data
     CKRMList<CKRMCCommandCancelCodeData> Data;  ///< cancel codes
     bool m_bProhibit = false;                   ///< prohibited; what is, is the engine's to say
 };
 
-/// OnBoardMonitorList (119) asks which on-board monitors an ECU has.
+/// OnBoardMonitorList asks which on-board monitors an ECU has.
 class KRM_API CKRMCOnBoardMonitorListCmdAdaptDataSnd
     : public MessageOf<CKRMCOnBoardMonitorListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "OnBoardMonitorList")> {

@@ -45,7 +45,7 @@ krm_long CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog() {
         itemLine("[%s] Data[%d].m_ulEcuId=%d", item.m_ulEcuId);
         itemLine("[%s] Data[%d].m_cPidIdList[%d]=%d", item.m_cPidIdList);
     });
-    // The channels carry the name Data too, from index 0 again; readers of the log rely on it.
+    // The channels go under the name Data too, counted from 0 again.
     line.ForEach(m_cOscInfoList, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_ushChId=%d", item.m_ushChId);
         itemLine("[%s] Data[%d].m_ulVolId=%d", item.m_ulVolId);

@@ -82,7 +82,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandDmReceiveData>;
 
-/// GetDataMonitorList (17) asks which values can be monitored.
+/// GetDataMonitorList asks which values can be monitored.
 class KRM_API CKRMCGetDataMonitorListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetDataMonitorListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorList")> {
@@ -101,7 +101,7 @@ public:
     CKRMList<unsigned char> m_uchA8SupportData;  ///< support data, the engine's to interpret; logged by its length only
 };
 
-/// StartDataMonitor (20) asks to start data monitors and the oscilloscope beside them.
+/// StartDataMonitor asks to start data monitors and the oscilloscope beside them.
 class KRM_API CKRMCStartDataMonitorCmdAdaptDataSnd
     : public MessageOf<CKRMCStartDataMonitorCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "StartDataMonitor")> {
@@ -124,7 +124,7 @@ public:
     CKRMList<CKRMCCommandDataMonitorIdData> Data;
 };
 
-/// GetDataMonitorValue (21) asks for the current values of a data monitor.
+/// GetDataMonitorValue asks for the current values of a data monitor.
 class KRM_API CKRMCGetDataMonitorValueCmdAdaptDataSnd
     : public MessageOf<CKRMCGetDataMonitorValueCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorValue")> {
@@ -134,7 +134,7 @@ public:
     unsigned short m_ushDataMonitorId = 0;
 };
 
-/// Answers with the values. Polled all the time, so the log gets its base's lines only.
+/// Answers with the values. They stay out of the log, which gets the base's lines only.
 class KRM_API CKRMCGetDataMonitorValueCmdAdaptDataRcv
     : public MessageOf<CKRMCGetDataMonitorValueCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorValue")> {
@@ -145,7 +145,7 @@ public:
     unsigned short m_ushValueReserved = 0;  ///< stored and copied, never logged
 };
 
-/// GetTriggerItem (23) asks what the data monitor can be triggered by.
+/// GetTriggerItem asks what the data monitor can be triggered by.
 class KRM_API CKRMCGetTriggerItemCmdAdaptDataSnd
     : public MessageOf<CKRMCGetTriggerItemCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetTriggerItem")> {
@@ -163,7 +163,7 @@ public:
     CKRMList<CKRMCCommandTriggerData> m_cTriggerList;
 };
 
-/// GetDescription (25) asks for the description of the ECU.
+/// GetDescription asks for a description.
 class KRM_API CKRMCGetDescriptionCmdAdaptDataSnd
     : public MessageOf<CKRMCGetDescriptionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDescription")> {
@@ -181,7 +181,7 @@ public:
     CKRMString m_strDescription;
 };
 
-/// GetDataMonitorError (39) asks what went wrong in the data monitor.
+/// GetDataMonitorError asks what went wrong in the data monitor.
 class KRM_API CKRMCGetDataMonitorErrorCmdAdaptDataSnd
     : public MessageOf<CKRMCGetDataMonitorErrorCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorError")> {
@@ -199,7 +199,7 @@ public:
     CKRMList<CKRMCCommandDmErrorData> Data;
 };
 
-/// GetCurrentDataValue (92) asks for the current values of these parameters, without a data monitor.
+/// GetCurrentDataValue asks for the current values of these parameters, without a data monitor.
 class KRM_API CKRMCGetCurrentDataValueCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCurrentDataValueCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCurrentDataValue")> {
@@ -219,7 +219,7 @@ public:
     CKRMList<CKRMCCommandFFDData> Data;
 };
 
-/// GetHexModeInfo (101) asks how memory addresses are shown.
+/// GetHexModeInfo asks how memory addresses are shown.
 class KRM_API CKRMCGetHexModeInfoCmdAdaptDataSnd
     : public MessageOf<CKRMCGetHexModeInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetHexModeInfo")> {
@@ -237,7 +237,7 @@ public:
     krm_ulong m_ulAddressByte = 0;  ///< bytes of an address
 };
 
-/// GetDataMonitorReceiveInfo (111) asks what the data monitor received.
+/// GetDataMonitorReceiveInfo asks what the data monitor received.
 class KRM_API CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd
     : public MessageOf<CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorReceiveInfo")> {
@@ -255,7 +255,7 @@ public:
     CKRMList<CKRMCCommandDmReceiveData> m_cDmReceiveDataList;
 };
 
-/// GetUnitInfo (127) asks for the lengths of the unit's diagnostic messages.
+/// GetUnitInfo asks for the lengths of the unit's diagnostic messages.
 class KRM_API CKRMCGetUnitInfoCmdAdaptDataSnd
     : public MessageOf<CKRMCGetUnitInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetUnitInfo")> {

@@ -35,7 +35,7 @@ public:
     krm_ulong m_ulUnitId = 0;  ///< words ID of the display unit
     CKRMString m_strUnit;
     krm_ulong m_ulOscReserved = 0;                ///< stored and copied, never logged
-    unsigned char m_uchDataType = 0;              ///< data type of the value
+    unsigned char m_uchDataType = 0;              ///< data type of the value, as the converters take it
     unsigned char m_uchDecPntCount = 0;           ///< decimal places of the value
     unsigned char m_uchUnitConvDecPntCount = 0;   ///< decimal places after unit conversion
     CKRMCCommandConversionData m_cConversionTbl;  ///< conversion rule
@@ -80,7 +80,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandWriteData>;
 
-/// GetOscilloscopeList (88) asks what the oscilloscope offers.
+/// GetOscilloscopeList asks what the oscilloscope offers.
 class KRM_API CKRMCGetOscilloscopeListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetOscilloscopeListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetOscilloscopeList")> {
@@ -100,7 +100,7 @@ public:
     CKRMList<CKRMCCommandOscTimeInfo> m_cTimeList;  ///< time bases
 };
 
-/// ReadMemory (102) asks for the bytes at these addresses.
+/// ReadMemory asks for the bytes at these addresses.
 class KRM_API CKRMCReadMemoryCmdAdaptDataSnd
     : public MessageOf<CKRMCReadMemoryCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "ReadMemory")> {
@@ -120,7 +120,7 @@ public:
     CKRMList<CKRMCCommandReadMemoryInfo> m_cReadMemoryInfoList;
 };
 
-/// WriteMemory (103) asks to write one byte.
+/// WriteMemory asks to write one byte.
 class KRM_API CKRMCWriteMemoryCmdAdaptDataSnd
     : public MessageOf<CKRMCWriteMemoryCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "WriteMemory")> {

@@ -166,7 +166,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandDiagDetailData>;
 
-/// The length of a diagnosis message. No message of the library carries it.
+/// The length of a diagnosis message. GetUnitInfo answers with these.
 class KRM_API CKRMCCommandDiagMessage : public RecordOf<CKRMCCommandDiagMessage> {
 public:
     ~CKRMCCommandDiagMessage() override;

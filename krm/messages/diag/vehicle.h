@@ -60,7 +60,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandCarTypeOptionContentsData>;
 
-/// A car type option, asked after the categories where they leave several vehicles, with all its choices.
+/// A car type option with all its choices.
 class KRM_API CKRMCCommandCarTypeOptionData : public RecordOf<CKRMCCommandCarTypeOptionData> {
 public:
     ~CKRMCCommandCarTypeOptionData() override;
@@ -135,7 +135,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandVehicleInfoItem>;
 
-/// One vehicle information that has been chosen, or can be.
+/// One piece of vehicle information that has been chosen, or can be.
 class KRM_API CKRMCCommandVehicleInfoData : public RecordOf<CKRMCCommandVehicleInfoData> {
 public:
     ~CKRMCCommandVehicleInfoData() override;
@@ -158,7 +158,7 @@ public:
 };
 extern template class CKRMList<CKRMCCommandVehicleInfoSelectData>;
 
-/// One information about a system of the vehicle.
+/// One piece of information about a system of the vehicle.
 class KRM_API CKRMCCommandVehicleSystemInfo : public RecordOf<CKRMCCommandVehicleSystemInfo> {
 public:
     ~CKRMCCommandVehicleSystemInfo() override;
@@ -189,7 +189,7 @@ public:
 };
 extern template class CKRMList<CKRMCWrapperCreationData>;
 
-/// VehicleDecision (10) asks what is still to choose, given the choices made so far.
+/// VehicleDecision asks what is still to choose, given the choices made so far.
 class KRM_API CKRMCVehicleDecisionCmdAdaptDataSnd
     : public MessageOf<CKRMCVehicleDecisionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "VehicleDecision")> {
@@ -214,7 +214,7 @@ public:
     CKRMCCommandCarTypeOptionData m_cCarTypeOption;
 };
 
-/// GetGroupEcuList (12) asks for the ECUs of the vehicle.
+/// GetGroupEcuList asks for the ECUs of the vehicle.
 class KRM_API CKRMCGetGroupEcuListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetGroupEcuListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetGroupEcuList")> {
@@ -232,7 +232,7 @@ public:
     CKRMList<CKRMCCommandEcuGroupData> Data;
 };
 
-/// GetEcuFunctionList (13) asks what an ECU of this phase can do.
+/// GetEcuFunctionList asks what an ECU of this phase can do.
 class KRM_API CKRMCGetEcuFunctionListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetEcuFunctionListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetEcuFunctionList")> {
@@ -252,7 +252,7 @@ public:
     CKRMList<CKRMCCommandEcuFunctionData> Data;
 };
 
-/// EcuConnect (14) asks to connect an ECU of a group on a bus.
+/// EcuConnect asks to connect an ECU of a group on a bus.
 class KRM_API CKRMCEcuConnectCmdAdaptDataSnd
     : public MessageOf<CKRMCEcuConnectCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "EcuConnect")> {
@@ -278,7 +278,7 @@ public:
     CKRMString m_strDescription;
 };
 
-/// CreateCommCtrlMain (24) asks to create the communication controller.
+/// CreateCommCtrlMain asks to create the communication controller.
 class KRM_API CKRMCCreateCommCtrlMainCmdAdaptDataSnd
     : public MessageOf<CKRMCCreateCommCtrlMainCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "CreateCommCtrlMain")> {
@@ -296,7 +296,7 @@ public:
     ~CKRMCCreateCommCtrlMainCmdAdaptDataRcv() override;
 };
 
-/// GetJ2534ConfigParam (27) asks for the SAE J2534 configuration of a bus.
+/// GetJ2534ConfigParam asks for the SAE J2534 configuration of a bus.
 class KRM_API CKRMCGetJ2534ConfigParamCmdAdaptDataSnd
     : public MessageOf<CKRMCGetJ2534ConfigParamCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetJ2534ConfigParam")> {
@@ -316,7 +316,7 @@ public:
     CKRMList<CKRMCCommandJ2534Config> Data;
 };
 
-/// InitMountEcuList (40) asks to set up the list of the ECUs that the model is equipped with.
+/// InitMountEcuList asks to set up the list of the ECUs that the model is equipped with.
 class KRM_API CKRMCInitMountEcuListCmdAdaptDataSnd
     : public MessageOf<CKRMCInitMountEcuListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "InitMountEcuList")> {
@@ -336,7 +336,7 @@ public:
     bool m_bInitialize = false;
 };
 
-/// ReadVBatt (43) asks for the battery voltage.
+/// ReadVBatt asks for the battery voltage.
 class KRM_API CKRMCReadVBattCmdAdaptDataSnd
     : public MessageOf<CKRMCReadVBattCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "ReadVBatt")> {
@@ -354,7 +354,7 @@ public:
     krm_ulong m_ulVBattValue = 0;  ///< battery voltage; its unit is the engine's
 };
 
-/// SelectCarId (46) asks to select the vehicle that the choices lead to.
+/// SelectCarId asks to select the vehicle that the choices lead to.
 class KRM_API CKRMCSelectCarIdCmdAdaptDataSnd
     : public MessageOf<CKRMCSelectCarIdCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "SelectCarId")> {
@@ -377,7 +377,7 @@ public:
     CKRMList<CKRMCCommandCarTypeCategoryData> Data;
 };
 
-/// GetDiagSession (47) asks which diagnostic session the ECU is in.
+/// GetDiagSession asks which diagnostic session the ECU is in.
 class KRM_API CKRMCGetDiagSessionCmdAdaptDataSnd
     : public MessageOf<CKRMCGetDiagSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetDiagSession")> {
@@ -395,7 +395,7 @@ public:
     unsigned char m_uchDiagSessionType = 0;
 };
 
-/// SetDiagSession (48) asks to enter a diagnostic session.
+/// SetDiagSession asks to enter a diagnostic session.
 class KRM_API CKRMCSetDiagSessionCmdAdaptDataSnd
     : public MessageOf<CKRMCSetDiagSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "SetDiagSession")> {
@@ -417,7 +417,7 @@ public:
     bool m_bResult = false;
 };
 
-/// GetVehicleInfo (77) asks what is known of the vehicle.
+/// GetVehicleInfo asks what is known of the vehicle.
 class KRM_API CKRMCGetVehicleInfoCmdAdaptDataSnd
     : public MessageOf<CKRMCGetVehicleInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetVehicleInfo")> {
@@ -435,7 +435,7 @@ public:
     CKRMList<CKRMCCommandVehicleInfoItem> Data;
 };
 
-/// GetAllDtcSystemList (78) asks which systems trouble codes can be read from.
+/// GetAllDtcSystemList asks which systems trouble codes can be read from.
 class KRM_API CKRMCGetAllDtcSystemListCmdAdaptDataSnd
     : public MessageOf<CKRMCGetAllDtcSystemListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetAllDtcSystemList")> {
@@ -453,7 +453,7 @@ public:
     CKRMList<krm_ulong> m_ulSystemIdList;
 };
 
-/// GetVinCode (79) asks for the vehicle identification number (VIN).
+/// GetVinCode asks for the vehicle identification number (VIN).
 class KRM_API CKRMCGetVinCodeCmdAdaptDataSnd
     : public MessageOf<CKRMCGetVinCodeCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetVinCode")> {
@@ -471,7 +471,7 @@ public:
     CKRMString m_strVinCode;
 };
 
-/// GetCarCategoryVin (80) asks what the VIN says about these categories.
+/// GetCarCategoryVin asks what the VIN says about these categories.
 class KRM_API CKRMCGetCarCategoryVinCmdAdaptDataSnd
     : public MessageOf<CKRMCGetCarCategoryVinCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetCarCategoryVin")> {
@@ -491,7 +491,7 @@ public:
     CKRMList<CKRMCCommandCarTypeCategoryData> Data;
 };
 
-/// GetVehicleSystemInfo (84) asks for the information about a system of the vehicle.
+/// GetVehicleSystemInfo asks for the information about a system of the vehicle.
 class KRM_API CKRMCGetVehicleSystemInfoCmdAdaptDataSnd
     : public MessageOf<CKRMCGetVehicleSystemInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "GetVehicleSystemInfo")> {
@@ -511,7 +511,7 @@ public:
     CKRMList<CKRMCCommandVehicleSystemInfo> Data;
 };
 
-/// SelectVehicleInfo (107) asks to select the vehicle by the information chosen so far.
+/// SelectVehicleInfo asks to select the vehicle by the information chosen so far.
 class KRM_API CKRMCSelectVehicleInfoCmdAdaptDataSnd
     : public MessageOf<CKRMCSelectVehicleInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                        krm::CommandId(krm::CommandFamily::Diagnostic, "SelectVehicleInfo")> {
