@@ -22,7 +22,9 @@ namespace {
 /// Undoes PhysicalConversion's scaling, in plain double.
 double Unscaled(double value, krm_long lMul, krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount) {
     double unscaled = value * PowerOfTen(uchDecPntCount) - lOffset;
-    if (lMul != 1) {
+    if (lMul == 0) {
+        unscaled *= std::numeric_limits<double>::infinity();  // what dividing by 0 gives, without dividing by 0
+    } else if (lMul != 1) {
         unscaled /= lMul;
     }
     if (Divides(lDiv)) {
