@@ -170,6 +170,7 @@ TEST_F(OutOfMemory, StringsKeepTheirText) {
     EXPECT_GE(FailEach([&] { text = doubled.c_str(); }, isWhole), 1);
     text = kLong;
     EXPECT_GE(FailEach([&] { CKRMString(text).Format("%s%s", kLong, kLong); }), 2);
+    text = CKRMString(kLong);  // with no more room than it needs
     EXPECT_GE(FailEach([&] { text.Format("%s%s", kLong, kLong); }, isWhole), 1);
     EXPECT_EQ(std::string(text.GetText()), doubled);
 }

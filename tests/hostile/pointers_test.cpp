@@ -20,7 +20,8 @@ using ::testing::ElementsAre;
 
 // A null that the compiler doesn't know to be one: it would refuse it as a format.
 const char* NoText() {
-    return nullptr;
+    static const char* const volatile none = nullptr;
+    return none;
 }
 
 bool WalksPlainList(int code) {
