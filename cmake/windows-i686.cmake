@@ -12,7 +12,10 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 # Headers alone, without a library for one target, are found on the host too.
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
 if(DEFINED ENV{KRM_WINE})
-    set(CMAKE_CROSSCOMPILING_EMULATOR $ENV{KRM_WINE})
+    set(KRM_WINE $ENV{KRM_WINE} CACHE STRING "Command that runs a Windows program" FORCE)
+endif()
+if(KRM_WINE)
+    set(CMAKE_CROSSCOMPILING_EMULATOR ${KRM_WINE})
 endif()
 
 # The compiler's runtime, which programs need beside them.

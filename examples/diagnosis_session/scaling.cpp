@@ -34,7 +34,8 @@ std::optional<Decimal> DecimalOf(std::string_view text) {
             power.remove_prefix(1);
         }
         const auto [end, error] = std::from_chars(power.data(), power.data() + power.size(), decimal.exponent);
-        if (error != std::errc() || end != power.data() + power.size() || std::abs(decimal.exponent) > 400) {
+        if (error != std::errc() || end != power.data() + power.size() || decimal.exponent > 400 ||
+            decimal.exponent < -400) {
             return std::nullopt;
         }
         text = text.substr(0, mark);
@@ -70,6 +71,16 @@ std::optional<Decimal> DecimalOf(std::string_view text) {
     }
     decimal.digits = negative ? -decimal.digits : decimal.digits;
     return decimal;
+}
+
+/// `top` / `bottom` x 10^power. The powers of ten cancel out first: each number alone may be too large or too small for a
+/// double, and two such numbers have no quotient.
+double Quotient(Decimal top, Decimal bottom, int power) {
+    if (top.digits == 0) {
+        return 0;
+    }
+    return static_cast<double>(top.digits) / static_cast<double>(bottom.digits) *
+           std::pow(10.0, top.exponent - bottom.exponent + power);
 }
 
 /// A fraction, reduced, its denominator above 0.
@@ -174,7 +185,7 @@ std::optional<Scaling> ScalingOf(std::string_view mulText, std::string_view divT
         if (std::abs(offset) > static_cast<double>(kLargest)) {
             break;
         }
-        const double factor = mul->Value() / div->Value() * unit;
+        const double factor = Quotient(*mul, *div, decimals);
         const Fraction fraction = NearestFraction(factor);
         const double error =
             (std::abs(fraction.Value() - factor) * largestRaw + std::abs(std::round(offset) - offset)) / unit;

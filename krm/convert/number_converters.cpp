@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
+#include <limits>
 
 #include "krm/convert/numbers.h"
 
@@ -104,9 +104,13 @@ krm_ulong CKRMCCommandConvSignalDataIncline::ValueConversion(double* result, krm
     if (status != 0) {
         return status;
     }
-    const double angle = std::asin(physical * 0.1 / 9.8);
-    const double slope = std::tan(angle) * 100;
-    *result = slope < -100 ? -100 : slope > 100 ? 100 : slope;  // a NaN passes
+    const double sine = physical * 0.1 / 9.8;
+    if (std::fabs(sine) > 1) {
+        *result = std::numeric_limits<double>::quiet_NaN();  // an arcsine's NaN has another sign on each platform
+        return 0;
+    }
+    const double slope = std::tan(std::asin(sine)) * 100;
+    *result = std::clamp(slope, -100.0, 100.0);
     return 0;
 }
 

@@ -46,7 +46,7 @@ std::string Formatted(const char* format, const std::tm& parts) {
 #endif
 }
 
-std::string DateText(int year, int month, int day) {
+[[maybe_unused]] std::string DateText(int year, int month, int day) {
     std::tm parts{};
     parts.tm_year = year - 1900;
     parts.tm_mon = month - 1;
@@ -54,7 +54,7 @@ std::string DateText(int year, int month, int day) {
     return Formatted("%x", parts);
 }
 
-std::string TimeText(int hour, int minute, int second) {
+[[maybe_unused]] std::string TimeText(int hour, int minute, int second) {
     std::tm parts{};
     parts.tm_hour = hour;
     parts.tm_min = minute;

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/c_locale.h"
 #include "tests/support/session_run.h"
 
 namespace {
@@ -26,6 +27,7 @@ std::vector<std::string> FieldsOf(const std::string& line) {
 
 /// A number with five decimals; a text of an enumerated item as it is.
 std::string Expected(const std::string& value) {
+    const krm::test::InCLocale inCLocale;
     char* end = nullptr;
     const double number = std::strtod(value.c_str(), &end);
     if (value.empty() || *end != '\0') {

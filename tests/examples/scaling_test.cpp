@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace {
 
 using diagnosis_session::Scaling;
@@ -52,6 +54,20 @@ TEST(Scaling, TheNearestFractionAsALastResort) {
     EXPECT_NEAR(65535.0 * scaling->mul / scaling->div / unit, 65535.0 * 0.30517578194763, 1e-6);
 }
 
+TEST(Scaling, NumbersBeyondADoubleHaveAQuotientAllTheSame) {
+    // The offset, which no decimal places hold, keeps the exact way from being taken.
+    const auto quotient = [](const char* mul, const char* div) {
+        const auto scaling = ScalingOf(mul, div, "1e-300", 8);
+        EXPECT_TRUE(scaling) << mul << " / " << div;
+        return scaling ? static_cast<double>(scaling->mul) / scaling->div / std::pow(10.0, scaling->decimals) : -1;
+    };
+    EXPECT_NEAR(quotient("5e-324", "1e-323"), 0.5, 1e-9);
+    EXPECT_NEAR(quotient("12345678901e390", "98765432109e390"), 12345678901.0 / 98765432109.0, 1e-9);
+    EXPECT_NEAR(quotient("12345678901e-390", "98765432109e-390"), 12345678901.0 / 98765432109.0, 1e-9);
+    EXPECT_EQ(quotient("0", "1e-390"), 0);
+    EXPECT_FALSE(ScalingOf("1e300", "1e-300", "1e-300", 8));
+}
+
 TEST(Scaling, NothingWhereItDoesNotFitOrIsNoScaling) {
     EXPECT_FALSE(ScalingOf("1", "1", "3000000000", 8));
     EXPECT_FALSE(ScalingOf("3000000000.5", "1", "0", 32));
@@ -61,6 +77,8 @@ TEST(Scaling, NothingWhereItDoesNotFitOrIsNoScaling) {
     EXPECT_FALSE(ScalingOf("one", "1", "0", 8));
     EXPECT_FALSE(ScalingOf("1e", "1", "0", 8));
     EXPECT_FALSE(ScalingOf("1e999", "1", "0", 8));
+    EXPECT_FALSE(ScalingOf("1e2147483647", "1", "0", 8));
+    EXPECT_FALSE(ScalingOf("1e-2147483648", "1", "0", 8));
 }
 
 }  // namespace

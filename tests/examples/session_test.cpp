@@ -365,4 +365,13 @@ TEST_F(Session, BadItemsAreToldByTheirLineAndTheRestDecoded) {
     EXPECT_EQ(Values(), "1,010D,GOOD,2,2.00000,\n");
 }
 
+TEST_F(Session, AFaultStaysOneLineWhateverItQuotes) {
+    const SessionResult run = Run({}, R"({"commands": [{"cmd": {"01": "0D"}, "signals": [
+  {"id": "A\nB\u0000\u001b[2J\u007f\u00e9", "fmt": {"len": 0}},
+  {"id": "C", "fmt": {"len": 8, "map": {"1\r\n": {"value": "x"}}}}]}]})");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, TableFault("2: item A?B??[2J?\xC3\xA9 left out: \"len\" is 0") +
+                           TableFault("3: item C left out: \"map\" has the key \"1??\", not a raw value in decimal"));
+}
+
 }  // namespace

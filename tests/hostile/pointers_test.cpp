@@ -18,9 +18,11 @@ namespace {
 
 using ::testing::ElementsAre;
 
-// A null that the compiler doesn't know to be one: it would refuse it as a format.
+// A null that the compiler doesn't know to be one: it would refuse it as a format, and a format that isn't a literal
+// without arguments too.
 const char* NoText() {
-    return nullptr;
+    static const char* const volatile none = nullptr;
+    return none;
 }
 
 bool WalksPlainList(int code) {
@@ -90,10 +92,10 @@ TEST(NullPointers, OfBytesInEveryCombination) {
 TEST(NullPointers, OfLogLinesAreEmptyTexts) {
     LogCapture log;
     CKRMCCommandWordsData record;
-    record.ER_WriteOperationLogFormatStructure(NoText());
+    record.ER_WriteOperationLogFormatStructure(NoText(), 0);
     CKRMCGetTranslationStringCmdAdaptDataSnd message;
-    message.ER_WriteOperationLogFormat(NoText());
-    record.ErrWriteOperationLogStructure(NoText());
+    message.ER_WriteOperationLogFormat(NoText(), 0);
+    record.ErrWriteOperationLogStructure(NoText(), 0);
     record.ErrWriteOperationLogStructure("%s", NoText());
     EXPECT_THAT(log.Texts(),
                 ElementsAre("", "", ".m_ulWordsId=0", ".m_strWords=", "(null).m_ulWordsId=0", "(null).m_strWords="));

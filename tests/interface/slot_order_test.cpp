@@ -2,10 +2,11 @@
 // when an operation is reordered, inserted or added.
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <cstring>
+#include <type_traits>
 
 #include "krm/adaptation_data.h"
+#include "tests/support/all_classes.h"
+#include "tests/support/slot.h"
 
 namespace {
 
@@ -15,15 +16,10 @@ TEST(SlotOrder, OfThisCompiler) {
 }
 #else
 
-/// The slot of a virtual member function. By the Itanium C++ ABI its pointer holds 1 + the offset in the virtual table;
-/// the destructor takes the first two entries and counts as one slot here.
+/// The documented slot, which counts the destructor as one; it takes two entries of the table.
 template <class Member>
 int SlotOf(Member member) {
-    std::uintptr_t word = 0;
-    static_assert(sizeof(member) >= sizeof(word));
-    std::memcpy(&word, &member, sizeof(word));
-    EXPECT_EQ(1U, word & 1U) << "not a virtual function";
-    return static_cast<int>((word - 1) / sizeof(void*)) - 1;
+    return krm::test::SlotOf(member) - 1;
 }
 
 /// The number of slots of `Class`, destructor included: the slot that a further virtual operation gets.
@@ -75,6 +71,68 @@ TEST(SlotOrder, ViewerMessagesHaveNoDump) {
     EXPECT_EQ(2, SlotCountOf<CKRMCBaseVdcAdaptData>());
     EXPECT_EQ(2, SlotCountOf<CKRMCBaseVdcAdaptDataSnd>());
     EXPECT_EQ(2, SlotCountOf<CKRMCBaseVdcAdaptDataRcv>());
+}
+
+TEST(SlotOrder, ByteBuffer) {
+    EXPECT_EQ(1, SlotCountOf<CKRMBinary>());
+}
+
+TEST(SlotOrder, Tree) {
+    EXPECT_EQ(1, SlotOf(&CKRMCNode::Description));
+    using Attribute = CKRMCAttribute;
+    EXPECT_EQ(1, SlotOf(&Attribute::Description));
+    EXPECT_EQ(2, SlotOf(&Attribute::ClearValue));
+    EXPECT_EQ(3, SlotOf(&Attribute::CompareValue));
+    EXPECT_EQ(4, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, krm_ulong)>(&Attribute::SetValue)));
+    EXPECT_EQ(5, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, krm_long)>(&Attribute::SetValue)));
+    EXPECT_EQ(6, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, double)>(&Attribute::SetValue)));
+    EXPECT_EQ(7, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, const char*)>(&Attribute::SetValue)));
+    EXPECT_EQ(8, SlotCountOf<Attribute>());
+    using Element = CKRMCElement;
+    EXPECT_EQ(1, SlotOf(&Element::Description));
+    EXPECT_EQ(2, SlotOf(&Element::RemoveAll));
+    EXPECT_EQ(3, SlotOf(&Element::CreateAttribute));
+    EXPECT_EQ(4, SlotOf(&Element::RemoveAttribute));
+    EXPECT_EQ(5, SlotOf(&Element::GetAttribute));
+    EXPECT_EQ(6, SlotOf(&Element::CreateElementGroup));
+    EXPECT_EQ(7, SlotOf(&Element::RemoveElementGroup));
+    EXPECT_EQ(8, SlotOf(&Element::GetElementGroup));
+    EXPECT_EQ(9, SlotOf(&Element::CreateElement));
+    EXPECT_EQ(10, SlotOf(&Element::RemoveElement));
+    EXPECT_EQ(11, SlotOf(&Element::GetFirstElement));
+    EXPECT_EQ(12, SlotOf(&Element::GetElementByAttribute));
+    EXPECT_EQ(13, SlotCountOf<Element>());
+    using Group = CKRMCElementGroup;
+    EXPECT_EQ(1, SlotOf(&Group::Description));
+    EXPECT_EQ(2, SlotOf(&Group::CreateElement));
+    EXPECT_EQ(3, SlotOf(&Group::RemoveElement));
+    EXPECT_EQ(4, SlotOf(&Group::GetFirstElement));
+    EXPECT_EQ(5, SlotOf(&Group::GetElementByAttribute));
+    EXPECT_EQ(6, SlotCountOf<Group>());
+}
+
+// Every message and every record, by the list of all classes.
+
+template <class Class>
+int ExpectedSlots() {
+    if constexpr (std::is_base_of_v<CKRMCBaseVdcAdaptData, Class>) {
+        return 2;
+    } else if constexpr (std::is_base_of_v<CKRMBaseAdaptationData, Class> ||
+                         std::is_base_of_v<CKRMCBaseAdaptDataStructure, Class>) {
+        return 4;
+    } else {
+        return std::has_virtual_destructor_v<Class> ? 1 : 0;
+    }
+}
+
+TEST(SlotOrder, EveryMessageAndListElement) {
+#define KRM_EXPECT_SLOTS(Class, ...)                                       \
+    if constexpr (std::is_polymorphic_v<Class>) {                          \
+        EXPECT_EQ(ExpectedSlots<Class>(), SlotCountOf<Class>()) << #Class; \
+    }
+    KRM_ALL_MESSAGES(KRM_EXPECT_SLOTS)
+    KRM_ALL_LIST_ELEMENTS(KRM_EXPECT_SLOTS)
+#undef KRM_EXPECT_SLOTS
 }
 
 /// Opens the protected steps.

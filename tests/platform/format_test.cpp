@@ -13,6 +13,7 @@
 #include <string>
 
 #include "krm/platform/platform.h"
+#include "tests/support/c_locale.h"
 
 namespace {
 
@@ -253,11 +254,15 @@ TEST(FormatTest, FollowsNoLocale) {
 
 template <class... Arguments>
 void ExpectAsPrintf(const std::string& format, Arguments... arguments) {
-    const int length = std::snprintf(nullptr, 0, format.c_str(), arguments...);  // NOLINT
-    ASSERT_GE(length, 0) << format;
-    std::string wanted(static_cast<std::size_t>(length) + 1, '\0');
-    std::snprintf(wanted.data(), wanted.size(), format.c_str(), arguments...);  // NOLINT
-    wanted.pop_back();
+    std::string wanted;
+    {
+        const krm::test::InCLocale inCLocale;
+        const int length = std::snprintf(nullptr, 0, format.c_str(), arguments...);  // NOLINT
+        ASSERT_GE(length, 0) << format;
+        wanted.resize(static_cast<std::size_t>(length) + 1);
+        std::snprintf(wanted.data(), wanted.size(), format.c_str(), arguments...);  // NOLINT
+        wanted.pop_back();
+    }
     ASSERT_EQ(Formatted(format, arguments...), wanted) << format;
 }
 

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "krm/platform/config.h"
+#include "tests/support/c_locale.h"
 
 namespace krm::test {
 
@@ -133,6 +134,7 @@ inline double PhysicalInDouble(krm_ulong raw, const Item& item) {
 
 template <class... Arguments>
 std::string Print(const char* format, Arguments... arguments) {
+    const InCLocale inCLocale;
     char text[1000];
     const int length = std::snprintf(text, sizeof text, format, arguments...);
     return std::string(text, static_cast<std::size_t>(length));

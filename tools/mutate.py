@@ -1,0 +1,534 @@
+#!/usr/bin/env python3
+"""Checks that the tests can fail: changes the library at one place at a time and sees whether a test notices.
+
+    tools/mutate.py [COUNT] [--build DIR] [--seed WORD] [--only REGEX] [--list] [--headers N]
+
+COUNT places (200 if not given) are drawn from krm/, evenly over the kinds of change below, the same ones for the same
+seed and the same code. --only draws from the changes alone whose description ("krm/convert/converter.cpp:57 constant:
+1 -> 2") matches; --list shows the draw and runs nothing. Kinds:
+
+    comparison      < and <=, > and >=, == and != exchanged
+    arithmetic      + - * / % += and the like replaced, ++ and -- exchanged, a sign lost
+    logic           && and ||, & and |, << and >>, true and false exchanged, a ! lost
+    constant        n becomes n + 1; so do shift counts, sign codes, cases, bounds
+    default         the same for the value that a field starts with
+    return          a returned error code becomes 0, a returned true false
+    error code      the code that an operation fails with becomes another
+    statement       a statement of one line is left out: a call, an assignment, a reset
+    conversion      %d %u %X %s %lf in the format of a log line replaced
+    name            a letter of the field's name in such a format, or of the function's name in front of it
+    line order      two neighbouring log lines exchanged
+    line lost       a log line left out
+    field           the field of the next log line in the place of this one's
+
+Comments, preprocessor lines, Windows' own code and texts that are no format of a log line stay as they are; so do
+changes that change nothing by their kind (%d for %u where the field has less than 32 bits, or is an index).
+
+DIR is a tree that is built already (build/linux64; `./dev mutate` builds it). Neither the checkout nor the tree is ever
+changed: the changed file and all that is built from it lie in DIR/mutants, which goes at the end, interrupted or not. The
+tests' program stays as it is and loads the changed library. A changed source costs one object, without optimisation. A
+changed header that tests include, too, costs those sources of the library that include it and a small program of the tests
+that stand for it (TESTS_OF_HEADERS), so the draw takes only few of them (--headers).
+
+The suites of the changed file's own folder run first, then the other quick ones, then the slow ones; the first failure
+ends it. A change that doesn't compile (warnings are errors) was noticed by the compiler, one that crashes or fails a test
+by the tests, and one that doesn't end by the time limit. What is known to change nothing that a caller could see stands in
+tools/mutate_equivalent.txt with the reason, and isn't drawn.
+
+Exits with 0 when every change was noticed, with 1 when not. The result is in DIR/mutation.txt, too.
+"""
+
+import argparse
+import bisect
+import hashlib
+import json
+import os
+import re
+import resource
+import shlex
+import shutil
+import signal
+import subprocess
+import sys
+import time
+from collections import Counter, namedtuple
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+EQUIVALENT = ROOT / "tools" / "mutate_equivalent.txt"
+
+# The tests that stand for a header, when they are to be compiled anew for it. Other headers take the test of their name.
+TESTS_OF_HEADERS = {
+    "krm/core/list.h": ["tests/core/list_test.cpp"],
+    "krm/framework/dump.h": ["tests/framework/record_test.cpp", "tests/messages/diag/words_test.cpp"],
+    "krm/framework/record.h": ["tests/framework/record_test.cpp"],
+    "krm/framework/message.h": ["tests/framework/message_test.cpp"],
+    "krm/framework/commands.h": ["tests/framework/commands_test.cpp", "tests/framework/message_test.cpp"],
+    "krm/platform/platform.h": ["tests/platform/map_test.cpp", "tests/platform/string_test.cpp",
+                                "tests/platform/error_test.cpp", "tests/framework/message_test.cpp"],
+    "krm/convert/extended.h": ["tests/convert/extended_test.cpp", "tests/convert/base_conversions_test.cpp"],
+    "krm/convert/numbers.h": ["tests/convert/decimal_text_test.cpp", "tests/convert/base_conversions_test.cpp"],
+}
+
+MEMORY_LIMIT = 6 << 30
+
+Mutant = namedtuple("Mutant", "path line kind before after start end text")
+
+
+def describe(mutant):
+    return f"{mutant.path}:{mutant.line} {mutant.kind}: {mutant.before} -> {mutant.after}"
+
+
+# ---------------------------------------------------------------------------------------------------- places to change
+
+TOKEN = re.compile(
+    r"""(?P<comment>//[^\n]*|/\*.*?\*/)
+      | (?P<directive>^[ \t]*\#(?:[^\n]*\\\n)*[^\n]*)
+      | (?P<string>"(?:\\.|[^"\\\n])*")
+      | (?P<character>'(?:\\.|[^'\\\n])')
+      | (?P<number>\b0[xX][0-9A-Fa-f']+[uUlL]*|\b[0-9][0-9']*(?:\.[0-9]+)?(?:[uUlL]*)\b)
+      | (?P<word>[A-Za-z_]\w*)
+      | (?P<operator><<=|>>=|<=>|->|\+\+|--|&&|\|\||<<|>>|<=|>=|==|!=|[-+*/%&|^]=|::|[-+*/%&|^!~<>=?:;,.(){}\[\]])""",
+    re.VERBOSE | re.MULTILINE | re.DOTALL)
+
+COMPARISONS = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "=="}
+ARITHMETIC = {"+": "-", "-": "+", "*": "/", "/": "*", "%": "/", "+=": "-=", "-=": "+=", "*=": "/=", "/=": "*=",
+              "%=": "/="}
+LOGIC = {"&&": "||", "||": "&&", "&": "|", "|": "&", "<<": ">>", ">>": "<<", "|=": "&=", "&=": "|=", "<<=": ">>=",
+         ">>=": "<<="}
+
+LOG_LINE = re.compile(r'^(?P<indent> +)(?P<writer>\w*[lL]ine)\((?P<format>"[^"]*"), (?P<field>[^()"]+)\);$')
+STATEMENT = re.compile(r"""^\ {4,}(?:
+      (?:\+\+|--)[\w.\->]+
+    | [\w.\->:\[\]*]+(?:\(\))?\ (?:[-+*/%&|]|<<|>>)?=\ .+
+    | \*?[\w.\->:]+(?:\[[^\]]*\])?(?:\(\))?\ =\ .+
+    | (?!return\b|delete\b)[\w.\->:]+\(.*\)
+    | delete\ \w+
+    );$""", re.VERBOSE)
+NARROW = re.compile(r"\bm_(uch|ush|ch|b|c)[A-Z]|Data\[%[du]\]$")
+
+
+def windows_lines(text):
+    """Numbers of the lines that only a build for Windows sees."""
+    lines, stack, found = text.split("\n"), [], set()
+    for number, line in enumerate(lines, 1):
+        directive = line.strip()
+        if directive.startswith("#if"):
+            stack.append("_WIN32" in directive and "!defined(_WIN32)" not in directive)
+        elif directive.startswith("#else") and stack:
+            stack[-1] = False
+        elif directive.startswith("#endif") and stack:
+            stack.pop()
+        elif any(stack):
+            found.add(number)
+    return found
+
+
+def next_number(text):
+    digits = re.match(r"0[xX][0-9A-Fa-f']+|[0-9'.]+", text).group()
+    suffix = text[len(digits):]
+    plain = digits.replace("'", "")
+    if plain.lower().startswith("0x"):
+        return f"0x{int(plain, 16) + 1:X}{suffix}"
+    if "." in plain:
+        whole, decimals = plain.split(".")
+        return f"{int(whole) + 1}.{decimals}{suffix}"
+    return f"{int(plain) + 1}{suffix}"
+
+
+def changed_letter(text, place):
+    letter = text[place]
+    other = {"z": "a", "Z": "A", "9": "8"}.get(letter, chr(ord(letter) + 1))
+    return text[:place] + other + text[place + 1:]
+
+
+def changes_of_format(literal, is_log_line):
+    """Pairs of kind and changed literal."""
+    if "::ErrWriteOperationLog" in literal:
+        yield "name", changed_letter(literal, 6 + len(literal) % 10)
+        return
+    if not is_log_line:
+        return
+    for match in re.finditer(r"%([0-9]*)(lf|[duXs])", literal):
+        if match.start() <= 2:
+            continue  # the prefix
+        number, letter = match.groups()
+        index = literal[match.end():match.end() + 1] == "]"
+        narrow = index or NARROW.search(literal[:match.start()])
+        others = {"d": ["X" if narrow else "u"], "u": ["X"], "X": ["d"], "s": ["d"], "lf": ["f", "d"]}[letter]
+        if not narrow and letter == "d":
+            others.append("X")
+        for other in others:
+            yield "conversion", literal[:match.start()] + "%" + number + other + literal[match.end():]
+        if number:
+            yield "conversion", literal[:match.start()] + "%" + letter + literal[match.end():]
+    letters = [m.start() for m in re.finditer(r"(?<![%\\])[A-Za-z](?=[^%]*[\[=\"])", literal)
+               if literal[m.start() - 1] != "%" and not re.search(r"%[0-9l]*$", literal[:m.start()])]
+    if letters:
+        yield "name", changed_letter(literal, letters[len(literal) * 7 % len(letters)])
+
+
+def mutants_of(path, error_codes):
+    text = (ROOT / path).read_text()
+    windows = windows_lines(text)
+    starts = [0] + [match.end() for match in re.finditer("\n", text)]
+    lines = text.split("\n")
+    found = []
+
+    def line_of(offset):
+        return bisect.bisect_right(starts, offset)
+
+    def add(kind, start, end, replacement):
+        number = line_of(start)
+        if number not in windows:
+            before, after = text[start:end].strip(), replacement.strip()
+            found.append(Mutant(path, number, kind, " ".join(before.split()), " ".join(after.split()) or "(nothing)",
+                                start, end, text[:start] + replacement + text[end:]))
+
+    tokens = [match for match in TOKEN.finditer(text) if match.lastgroup != "comment"]
+    skip_until = -1
+    for i, token in enumerate(tokens):
+        kind, word, start, end = token.lastgroup, token.group(), token.start(), token.end()
+        if kind == "directive" or start < skip_until:
+            continue
+        before = tokens[i - 1].group() if i > 0 else ""
+        line = lines[line_of(start) - 1]
+        if word == "static_assert":
+            skip_until = text.index(";", start)
+        elif kind == "string":
+            for what, literal in changes_of_format(word, LOG_LINE.match(line) or re.search(r"\w*[lL]ine\($", text[:start])):
+                add(what, start, end, literal)
+        elif kind == "character" and len(word) == 3 and word[1].isalnum():
+            add("constant", start, end, changed_letter(word, 1))
+        elif kind == "number":
+            field = re.match(r"^    [\w:]+ m_\w+ = ", line)
+            add("default" if field else "constant", start, end, next_number(word))
+        elif word in ("true", "false") and before != "bool":
+            field = re.match(r"^    [\w:]+ m_\w+ = ", line)
+            kind = "default" if field else "return" if before == "return" else "logic"
+            add(kind, start, end, "false" if word == "true" else "true")
+        elif kind == "word" and re.match(r"k[A-Z]", word):
+            if before == "return" and tokens[i + 1].group() == ";":
+                add("return", start, end, "0")
+            elif before == "(" and tokens[i - 2].group() == "Fail" and word in error_codes:
+                others = error_codes
+                add("error code", start, end, others[(others.index(word) + 1) % len(others)])
+        elif kind == "operator" and before != "operator":
+            spaced = text[start - 1:start] == " " and text[end:end + 1] in (" ", "\n")
+            if word in ("++", "--"):
+                add("arithmetic", start, end, "--" if word == "++" else "++")
+            elif word == "!":
+                add("logic", start, end, "")
+            elif word == "-" and before in ("(", "=", ",", "return", "?", ":") and text[end:end + 1] != " ":
+                add("arithmetic", start, end, "")
+            elif spaced and before not in (",", "(", "template"):
+                for what, table in (("comparison", COMPARISONS), ("arithmetic", ARITHMETIC), ("logic", LOGIC)):
+                    if word in table:
+                        add(what, start, end, table[word])
+
+    for number, line in enumerate(lines, 1):
+        start = starts[number - 1]
+        end = start + len(line) + 1
+        match = LOG_LINE.match(line)
+        if match:
+            add("line lost", start, end, "")
+            following = LOG_LINE.match(lines[number])
+            if following and following["writer"] == match["writer"]:
+                add("line order", start, end + len(lines[number]) + 1, lines[number] + "\n" + line + "\n")
+                field = match.start("field")
+                add("field", start + field, start + match.end("field"), following["field"])
+        elif STATEMENT.match(line) and path.endswith(".cpp") or re.match(r"^ {8,}(\+\+|--)?m_\w+( [-+]?= .*)?;$", line):
+            if not re.match(r"^ +(using|typedef)\b", line):
+                add("statement", start, end, "")
+    return found
+
+
+def read_equivalent():
+    """Entries `path | kind | before -> after | part of the line, or nothing | reason`."""
+    entries = []
+    for line in EQUIVALENT.read_text().splitlines() if EQUIVALENT.exists() else []:
+        if line.strip() and not line.startswith("#"):
+            path, kind, change, code, reason = (part.strip() for part in line.split(" ;; "))
+            entries.append((path, kind, change, code, reason))
+    return entries
+
+
+def all_mutants():
+    entries = read_equivalent()
+    used = Counter()
+    error_codes = re.findall(r"\b(k[A-Z]\w*) = \d{10};", (ROOT / "krm/tree/node.h").read_text())
+    mutants = []
+    for path in sorted(str(p.relative_to(ROOT)) for p in (ROOT / "krm").rglob("*") if p.suffix in (".h", ".cpp")):
+        lines = (ROOT / path).read_text().split("\n")
+        for mutant in mutants_of(path, error_codes):
+            for entry in entries:
+                if (entry[0], entry[1], entry[2]) == (path, mutant.kind, f"{mutant.before} -> {mutant.after}") \
+                        and entry[3] in lines[mutant.line - 1]:
+                    used[entry] += 1
+                    break
+            else:
+                mutants.append(mutant)
+    for entry in entries:
+        if not used[entry]:
+            print(f"mutate_equivalent.txt: no place has the change {' ;; '.join(entry[:4])}", file=sys.stderr)
+    return mutants, sum(used.values())
+
+
+def draw(mutants, count, headers, seed):
+    """`count` of `mutants`, the kinds in turn; a change of code elsewhere leaves the order as it is."""
+    occurrences = Counter()
+    by_kind = {}
+    for mutant in mutants:
+        name = (mutant.path, mutant.kind, mutant.before, mutant.after)
+        occurrences[name] += 1
+        rank = hashlib.sha256(repr((seed, name, occurrences[name])).encode()).hexdigest()
+        by_kind.setdefault(mutant.kind, []).append((rank, mutant))
+    for ranked in by_kind.values():
+        ranked.sort(key=lambda pair: pair[0], reverse=True)
+    drawn = []
+    while len(drawn) < count and any(by_kind.values()):
+        for kind in sorted(by_kind):
+            while by_kind[kind] and len(drawn) < count:
+                mutant = by_kind[kind].pop()[1]
+                if mutant.path.endswith(".h"):
+                    if headers == 0:
+                        continue
+                    headers -= 1
+                drawn.append(mutant)
+                break
+    return sorted(drawn, key=lambda mutant: (mutant.path, mutant.start))
+
+
+# ------------------------------------------------------------------------------------------------------ build and run
+
+
+class Tree:
+    """A build tree, and the folder beside it where changed sources are built."""
+
+    def __init__(self, build):
+        self.build = build
+        self.mutants = build / "mutants"
+        self.objects = {}   # source, relative to the checkout -> its compile command
+        for entry in json.loads((build / "compile_commands.json").read_text()):
+            if Path(entry["file"]).is_relative_to(ROOT):
+                self.objects[str(Path(entry["file"]).relative_to(ROOT))] = shlex.split(entry["command"])
+        self.program = build / "bin" / "krm_tests"
+        self.libraries = {name: next((build / "krm").glob(f"lib{name}.so.*.*.*"))
+                          for name in ("krmc_adaptation_data", "krmc_platform")}
+        self.links = {name: self._link_command(path.relative_to(build)) for name, path in self.libraries.items()}
+        self.test_link = self._link_command("bin/krm_tests")
+        self.includers = self._includers()
+        self.quick, self.slow, self.limit = self._measure()
+
+    def _run(self, command):
+        return subprocess.run(command, cwd=self.build, check=True, capture_output=True, text=True).stdout
+
+    def _link_command(self, target):
+        line = self._run(["ninja", "-t", "commands", "-s", str(target)]).strip().split("\n")[-1]
+        words = shlex.split(line.removeprefix(": && ").removesuffix(" && :"))
+        return words
+
+    def _includers(self):
+        """Header -> the sources, relative to the checkout, whose objects include it."""
+        includers, source = {}, None
+        for line in self._run(["ninja", "-t", "deps"]).split("\n"):
+            if line and not line.startswith(" "):
+                source = None
+            elif line.strip():
+                path = Path(os.path.normpath(self.build / line.strip()))
+                if path.is_relative_to(ROOT):
+                    name = str(path.relative_to(ROOT))
+                    if source is None:
+                        source = name
+                    includers.setdefault(name, set()).add(source)
+        return includers
+
+    def _measure(self):
+        """Runs all tests as they are: they must pass, and their times tell the slow suites and the limit."""
+        result = self.build / "mutants" / "times.json"
+        self.mutants.mkdir(exist_ok=True)
+        start = time.monotonic()
+        subprocess.run([self.program, "--gtest_brief=1", f"--gtest_output=json:{result}"], cwd=self.build, check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        took = time.monotonic() - start
+        suites = [(float(suite["time"].rstrip("s")), suite["name"])
+                  for suite in json.loads(result.read_text())["testsuites"]]
+        suites.sort()
+        quick = [name for seconds, name in suites if seconds < 0.3]
+        slow = [name for seconds, name in suites if seconds >= 0.3]
+        return quick, slow, 60 + 5 * took
+
+    def compile(self, source, output, extra):
+        words = list(self.objects[source])
+        if Path(words[0]).name == "ccache":
+            del words[0]
+        words[words.index("-o") + 1] = str(output)
+        place = words.index("-c")
+        words[place + 1] = str(extra.get("file", words[place + 1]))
+        words[1:1] = [f"-I{extra['include']}"] if "include" in extra else []
+        output.parent.mkdir(parents=True, exist_ok=True)
+        return subprocess.run(words + ["-O0", "-g0"], cwd=self.build, capture_output=True, timeout=300).returncode == 0
+
+    def link(self, name, objects):
+        """Links the library again, with `objects` (source -> object) in the place of its own."""
+        words = list(self.links[name])
+        for i, word in enumerate(words):
+            for source, made in objects.items():
+                if word.endswith(".dir/" + source.removeprefix("krm/") + ".o"):
+                    words[i] = str(made)
+        words[words.index("-o") + 1] = str(self.mutants / f"lib{name}.so.1")
+        return subprocess.run(words, cwd=self.build, capture_output=True).returncode == 0
+
+    def link_tests(self, objects):
+        """Links a program of just the tests in `objects`."""
+        words = [word for word in self.test_link if not re.search(r"krm_tests\.dir/", word)]
+        words[words.index("-o") + 1] = str(self.mutants / "some_tests")
+        words[words.index("-o"):words.index("-o")] = [str(made) for made in objects]
+        return subprocess.run(words, cwd=self.build, capture_output=True).returncode == 0
+
+    def passes(self, program, suites):
+        """Whether the tests pass with the changed libraries: True, False, or None at the time limit."""
+        flags = self.mutants / "flags"
+        flags.write_text("--gtest_filter=" + ":".join(name + ".*" for name in suites) + "\n" if suites else "")
+        environment = dict(os.environ, LD_LIBRARY_PATH=str(self.mutants))
+
+        def limits():
+            resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+        process = subprocess.Popen([program, "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_flagfile={flags}"],
+                                   cwd=self.mutants, env=environment, preexec_fn=limits, start_new_session=True,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        try:
+            return process.wait(self.limit) == 0
+        except subprocess.TimeoutExpired:
+            return None
+        finally:
+            if process.poll() is None:
+                os.killpg(process.pid, signal.SIGKILL)
+                process.wait()
+
+    def clean(self):
+        shutil.rmtree(self.mutants, ignore_errors=True)
+
+
+def suites_of_folder(path):
+    """The names that suites of the tests of `path`'s folder begin with."""
+    folder = ROOT / "tests" / Path(path).parent.relative_to("krm")
+    names = set()
+    for test in folder.glob("*_test.cpp"):
+        names.update(re.findall(r"^(?:TYPED_)?TEST(?:_[FP])?\((\w+),", test.read_text(), re.MULTILINE))
+    return names
+
+
+def verdict(tree, mutant):
+    """"compiler", "test", "time limit", or "unnoticed"."""
+    tree.clean()
+    tree.mutants.mkdir()
+    library = "krmc_platform" if mutant.path.startswith("krm/platform/") else "krmc_adaptation_data"
+    objects, program, stages = {}, tree.program, None
+    if mutant.path.endswith(".cpp"):
+        changed = tree.mutants / Path(mutant.path).name
+        changed.write_text(mutant.text)
+        objects[mutant.path] = tree.mutants / "mutant.o"
+        if not tree.compile(mutant.path, objects[mutant.path], {"file": changed}):
+            return "compiler"
+        links = [library]
+    else:
+        changed = tree.mutants / "include" / mutant.path
+        changed.parent.mkdir(parents=True)
+        changed.write_text(mutant.text)
+        extra = {"include": tree.mutants / "include"}
+        includers = tree.includers.get(mutant.path, set())
+        tests = [name for name in includers if name.startswith("tests/")]
+        if tests:
+            stem = mutant.path.removeprefix("krm/").removesuffix(".h")
+            tests = [name for name in TESTS_OF_HEADERS.get(mutant.path, [f"tests/{stem}_test.cpp"])
+                     if (ROOT / name).exists()]
+            if not tests:
+                raise SystemExit(f"no tests stand for {mutant.path}: name them in TESTS_OF_HEADERS")
+        # The tests' own objects first: they are what most often refuses to compile or fails.
+        for source in tests + sorted(name for name in includers if name.startswith("krm/")):
+            objects[source] = tree.mutants / "objects" / (source + ".o")
+            if not tree.compile(source, objects[source], extra):
+                return "compiler"
+        links = [name for name in tree.links if any(
+            word.endswith(".dir/" + source.removeprefix("krm/") + ".o") for word in tree.links[name]
+            for source in objects if source.startswith("krm/"))]
+        if tests:
+            if not tree.link_tests([objects[name] for name in tests]):
+                return "compiler"
+            program, stages = tree.mutants / "some_tests", [[]]
+    for name in links:
+        if not tree.link(name, objects):
+            return "compiler"
+    if stages is None:
+        names = suites_of_folder(mutant.path)
+
+        def is_own(suite):
+            return any(part in names for part in suite.split("/"))
+
+        stages = [[suite for suite in tree.quick if is_own(suite)], [suite for suite in tree.quick if not is_own(suite)],
+                  [suite for suite in tree.slow if is_own(suite)], [suite for suite in tree.slow if not is_own(suite)]]
+        stages = [stage for stage in stages if stage]
+    for stage in stages:
+        passed = tree.passes(program, stage)
+        if passed is None:
+            return "time limit"
+        if not passed:
+            return "test"
+    return "unnoticed"
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("count", nargs="?", type=int, default=200)
+    parser.add_argument("--build", type=Path, default=ROOT / "build" / "linux64")
+    parser.add_argument("--seed", default="krm")
+    parser.add_argument("--only", default="")
+    parser.add_argument("--headers", type=int, default=15)
+    parser.add_argument("--list", action="store_true")
+    options = parser.parse_args()
+
+    mutants, equivalent = all_mutants()
+    places = len(mutants)
+    mutants = [mutant for mutant in mutants if re.search(options.only, describe(mutant))]
+    drawn = draw(mutants, options.count, options.headers, options.seed)
+    kinds = Counter(mutant.kind for mutant in drawn)
+    print(f"{len(drawn)} of {places} changes, {equivalent} known to change nothing: "
+          + ", ".join(f"{kind} {number}" for kind, number in sorted(kinds.items())), flush=True)
+    if options.list:
+        print("\n".join(describe(mutant) for mutant in drawn))
+        return 0
+
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    signal.signal(signal.SIGHUP, lambda *_: sys.exit(129))
+    build = options.build.resolve()
+    report = build / "mutation.txt"
+    results = {}
+    try:
+        tree = Tree(build)
+        with report.open("w") as out:
+            for number, mutant in enumerate(drawn, 1):
+                results[mutant] = verdict(tree, mutant)
+                line = f"{number}/{len(drawn)} {results[mutant]:10} {describe(mutant)}"
+                print(line, flush=True)
+                print(line, file=out, flush=True)
+            counts = Counter(results.values())
+            by_kind = {kind: Counter(result for mutant, result in results.items() if mutant.kind == kind)
+                       for kind in sorted(kinds)}
+            unnoticed = [mutant for mutant in drawn if results[mutant] == "unnoticed"]
+            lines = [f"{'':12} {'changes':>8} {'compiler':>8} {'tests':>8} {'time':>8} {'unnoticed':>9}"]
+            for kind, row in list(by_kind.items()) + [("all", counts)]:
+                lines.append(f"{kind:12} {sum(row.values()):8} {row['compiler']:8} {row['test']:8} "
+                             f"{row['time limit']:8} {row['unnoticed']:9}")
+            lines += ["unnoticed: " + describe(mutant) for mutant in unnoticed]
+            print("\n".join(lines))
+            print("\n".join(lines), file=out)
+    finally:
+        shutil.rmtree(build / "mutants", ignore_errors=True)
+    return 1 if unnoticed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
