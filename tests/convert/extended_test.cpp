@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
@@ -77,6 +78,32 @@ TEST(SoftExtended, WholeRangeOfIntegersAndPowers) {
         ExpectSame(number, -1, 1, -1, 10);
         ExpectSame(number, std::numeric_limits<krm_int64>::max(), 1, 1, 1e22);
     }
+}
+
+// The same sum of products in both, rounded to a double.
+void ExpectSameSum(double left, double leftFactor, double right, double rightFactor) {
+    const auto soft = static_cast<double>(SoftExtended(left) * SoftExtended(leftFactor) +
+                                          SoftExtended(right) * SoftExtended(rightFactor));
+    const auto hardware = static_cast<double>(static_cast<long double>(left) * static_cast<long double>(leftFactor) +
+                                              static_cast<long double>(right) * static_cast<long double>(rightFactor));
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(hardware), std::bit_cast<std::uint64_t>(soft))
+        << left << " * " << leftFactor << " + " << right << " * " << rightFactor;
+}
+
+TEST(SoftExtended, SumsOfNumbersAWorldApart) {
+    for (int exponent = 50; exponent <= 200; ++exponent) {
+        for (const double sign : {1.0, -1.0}) {
+            ExpectSameSum(std::ldexp(1, exponent), 1, sign, 1);
+            ExpectSameSum(std::ldexp(1, exponent), 1 + 0x1p-52, sign * (2 - 0x1p-52), 1 - 0x1p-53);
+            ExpectSameSum(sign, 1 + 0x1p-40, -std::ldexp(1, exponent), 1 + 0x1p-23);
+        }
+    }
+}
+
+TEST(SoftExtended, ADifferenceBelowTheLastBit) {
+    // 2^64 less 2^64 - 1, which has all 64 bits set: what is left is the bit that was shifted out of them.
+    ExpectSameSum(0x1p32, 0x1p32, -(0x1p32 - 1), 0x1p32 + 1);
+    ExpectSameSum(-0x1p32, 0x1p32, 0x1p32 - 1, 0x1p32 + 1);
 }
 
 #else
