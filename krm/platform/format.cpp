@@ -26,8 +26,7 @@ public:
                 return;
             }
         }
-        std::memcpy(m_room.data() + m_length, text.data(), text.size());
-        m_length += text.size();
+        m_length += text.copy(m_room.data() + m_length, text.size());
     }
     void Append(std::size_t count, char character) {
         for (; count != 0; --count) {
