@@ -38,13 +38,9 @@ krm_ulong ThreeBytesText(CKRMString* result, krm_ulong* stringId, double physica
     }
     const krm_ulong value = TruncateToLow32(physical);
     const auto part = [value](unsigned shift) { return ((value >> shift) & 0xFFU) % 100; };
-    ShortText()
-        .Decimal(part(16), 2)
-        .Character('.')
-        .Decimal(part(8), 2)
-        .Character('.')
-        .Decimal(part(0), 2)
-        .AssignTo(*result);
+    ShortText text;
+    text.Decimal(part(16), 2).Character('.').Decimal(part(8), 2).Character('.').Decimal(part(0), 2);
+    text.AssignTo(*result);
     return 0;
 }
 

@@ -407,6 +407,15 @@ TYPED_TEST(ListTest, InsertAtANegativeIndexPutsItFirst) {
     EXPECT_EQ(list.GetCount(), 3);
 }
 
+TYPED_TEST(ListTest, InsertAtANegativeIndexOfAnEmptyListAppends) {
+    for (const int index : {-1, INT_MIN}) {
+        CKRMList<TypeParam> list;
+        list.InsertAt(index, Make<TypeParam>(1));
+        EXPECT_THAT(Numbers(list), ElementsAre(1));
+        EXPECT_EQ(list.GetCount(), 1);
+    }
+}
+
 TYPED_TEST(ListTest, InsertAtTheCountOrBeyondAppends) {
     CKRMList<TypeParam> list;
     list.InsertAt(7, Make<TypeParam>(1));
