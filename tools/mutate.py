@@ -31,7 +31,7 @@ changed header that tests include, too, costs those sources of the library that 
 that stand for it (TESTS_OF_HEADERS), so the draw takes only few of them (--headers).
 
 The suites of the changed file's own folder run first, then the other quick ones, then the slow ones; the first failure
-ends it. A change that doesn't compile was noticed by the compiler (warnings don't count: an unused parameter or a missing
+ends it. A header of krm/framework/ must also still refuse the code of tests/must_not_compile. A change that doesn't compile was noticed by the compiler (warnings don't count: an unused parameter or a missing
 pair of parentheses says nothing about the tests), one that crashes or fails a test by the tests, and one that doesn't end
 by the time limit. What is known to change nothing that a caller could see stands in
 tools/mutate_equivalent.txt with the reason, and isn't drawn.
@@ -416,6 +416,15 @@ class Tree:
                 os.killpg(process.pid, signal.SIGKILL)
                 process.wait()
 
+    def refuses_bad_code(self):
+        """Whether the code of tests/must_not_compile is refused, with the changed header, as it announces."""
+        folder = ROOT / "tests" / "must_not_compile"
+        compiler = [word for word in self.objects["krm/framework/message.cpp"] if "ccache" not in word][0]
+        command = [compiler, "-std=c++20", "-fsyntax-only", f"-I{self.mutants / 'include'}", f"-I{ROOT}"]
+        return all(subprocess.run(["cmake", f"-DSOURCE={source}", "-P", folder / "check.cmake", "--"] + command,
+                                  capture_output=True).returncode == 0
+                   for source in sorted(folder.glob("*.cpp")))
+
     def clean(self):
         shutil.rmtree(self.mutants, ignore_errors=True)
 
@@ -483,6 +492,8 @@ def verdict(tree, mutant):
             return "time limit"
         if not passed:
             return "test"
+    if mutant.path.startswith("krm/framework/") and mutant.path.endswith(".h") and not tree.refuses_bad_code():
+        return "test"
     return "unnoticed"
 
 
