@@ -246,7 +246,7 @@ def mutants_of(path, error_codes):
 
 
 def read_equivalent():
-    """Entries `path | kind | before -> after | part of the line, or nothing | reason`."""
+    """Tuples of file, kind, change, part of the line, reason."""
     entries = []
     for line in EQUIVALENT.read_text().splitlines() if EQUIVALENT.exists() else []:
         if line.strip() and not line.startswith("#"):
@@ -261,11 +261,16 @@ def all_mutants():
     error_codes = re.findall(r"\b(k[A-Z]\w*) = \d{10};", (ROOT / "krm/tree/node.h").read_text())
     mutants = []
     for path in sorted(str(p.relative_to(ROOT)) for p in (ROOT / "krm").rglob("*") if p.suffix in (".h", ".cpp")):
-        lines = (ROOT / path).read_text().split("\n")
+        text = (ROOT / path).read_text()
+        lines = text.split("\n")
         for mutant in mutants_of(path, error_codes):
             for entry in entries:
+                line = lines[mutant.line - 1]
+                if "@" in entry[3]:
+                    column = mutant.start - text.rfind("\n", 0, mutant.start) - 1
+                    line = line[:column] + "@" + line[column + mutant.end - mutant.start:]
                 if (entry[0], entry[1], entry[2]) == (path, mutant.kind, f"{mutant.before} -> {mutant.after}") \
-                        and entry[3] in lines[mutant.line - 1]:
+                        and entry[3] in line:
                     used[entry] += 1
                     break
             else:
