@@ -82,8 +82,7 @@ void AssignHex(CKRMString& result, const char* prefix, double value, unsigned sh
         *end++ = *p;
     }
     if (width > count) {
-        std::memset(end, '0', width - count);
-        end += width - count;
+        end = std::fill_n(end, width - count, '0');
     }
     for (const char* p = digits.data(); p != digitsEnd; ++p) {
         *end++ = *p >= 'a' ? static_cast<char>(*p - 'a' + 'A') : *p;

@@ -69,6 +69,14 @@ TEST(SoftExtended, SumsThatCancelCarryOrFallFarApart) {
     }
 }
 
+TEST(SoftExtended, SumsOfWhichTheLastBitAloneIsLeft) {
+    // (2^63 + 1) / 2^31 has the first and the last of 64 bits; 2^32 less, the last.
+    constexpr krm_int64 kThird = 3074457345618258603;
+    ExpectSame(kThird, 3, krm_int64{1} << 31, -(krm_int64{1} << 32), 1);
+    ExpectSame(-kThird, 3, krm_int64{1} << 31, krm_int64{1} << 32, 10);
+    EXPECT_EQ(0x1p-31, Scaled<SoftExtended>(kThird, 3, krm_int64{1} << 31, -(krm_int64{1} << 32), 1));
+}
+
 TEST(SoftExtended, WholeRangeOfIntegersAndPowers) {
     for (const krm_int64 number : {std::numeric_limits<krm_int64>::min(), std::numeric_limits<krm_int64>::max(),
                                    std::numeric_limits<krm_int64>::max() - 1, krm_int64{1} << 53,

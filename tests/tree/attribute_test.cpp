@@ -165,6 +165,19 @@ TEST(Attribute, ChangesItsTypeWithEveryValue) {
     EXPECT_EQ(before, LivingBlocks());
 }
 
+TEST(Attribute, FreesItsValueWhenItDies) {
+    KRM_SKIP_WITHOUT_FAILING_ALLOCATIONS();
+    const long before = LivingBlocks();
+    {
+        const CKRMCAttribute text("a", kLongText);
+        const CKRMCAttribute real("a", 0.5);
+        const CKRMCAttribute number("a", krm_long{-1});
+        const CKRMCAttribute index("a", krm_ulong{1});
+        EXPECT_EQ(before + 5, LivingBlocks()) << "four cells and the text's memory";
+    }
+    EXPECT_EQ(before, LivingBlocks());
+}
+
 TEST(Attribute, SuccessLeavesTheErrorCleared) {
     RecordingError error;
     CKRMCAttribute attribute("A");
