@@ -1,7 +1,10 @@
 #include "krm/tree/attribute.h"
 
+#include <array>
+#include <charconv>
 #include <cstdint>
 #include <new>
+#include <string>
 
 #include "krm/tree/chain.h"
 #include "krm/tree/operation.h"
@@ -17,6 +20,20 @@ CKRMString* NewString(const char* text) {
     } catch (const std::bad_alloc&) {  // the text's own memory
         return nullptr;
     }
+}
+
+// Integers, which most values are, look the same without the work of a format.
+template <class Integer>
+void AppendNumber(std::string& out, Integer number) {
+    std::array<char, 12> digits;  // a sign and the ten digits of 32 bits
+    out.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
+}
+
+template <class Number>
+void AppendFormatted(std::string& out, const char* format, Number number) {
+    CKRMString text;
+    text.Format(format, number);
+    out += text.GetText();
 }
 
 }  // namespace
@@ -47,45 +64,40 @@ CKRMCAttribute::~CKRMCAttribute() {
 }
 
 krm_ulong CKRMCAttribute::Description(CKRMString& out) {
-    // Each sibling is to describe its followers inside its own call. As long as that is this very operation, it is the
-    // same thing without a stack as long as the chain; the first of another class is called and goes on from there.
-    CKRMCAttribute* attribute = this;
-    CKRMCNode* next = nullptr;
-    do {
-        attribute->AppendTo(out);
-        next = attribute->m_pcNext;
-        attribute = ExactlyA<CKRMCAttribute>(next);
-    } while (attribute != nullptr);
-    return next != nullptr ? next->Description(out) : 0;
+    std::string text;
+    CKRMCNode* const other = Chain::AppendAttributes(*this, text);
+    out += text.c_str();
+    return other != nullptr ? other->Description(out) : 0;
 }
 
-void CKRMCAttribute::AppendTo(CKRMString& out) const {
-    const char* const name = GetName();
-    const int type = static_cast<int>(m_ulValueType);
-    CKRMString text;
+void CKRMCAttribute::AppendTo(std::string& out) const {
+    out += ' ';
+    out += GetName();
+    out += '[';
+    AppendNumber(out, static_cast<int>(m_ulValueType));
+    out += "]=\"";
     if (m_pValue == nullptr) {
-        text.Format(" %s[%d]=\"NULL\"", name, type);
+        out += "NULL";
     } else {
         switch (m_ulValueType) {
             case kStringValue:
-                text.Format(" %s[%d]=\"%s\"", name, type, GetString());
+                out += GetString();
                 break;
             case kDoubleValue:
-                text.Format(" %s[%d]=\"%lf\"", name, type, GetDouble());
+                AppendFormatted(out, "%lf", GetDouble());
                 break;
             case kLongValue:
-                text.Format(" %s[%d]=\"%ld\"", name, type, static_cast<long>(GetLong()));
+                AppendNumber(out, GetLong());
                 break;
             case kULongValue:
-                text.Format(" %s[%d]=\"%lu\"", name, type, static_cast<unsigned long>(GetULong()));
+                AppendNumber(out, GetULong());
                 break;
             default:
-                text.Format(" %s[%d]=\"0x%08X\"", name, type,
-                            static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(m_pValue)));
+                AppendFormatted(out, "0x%08X", static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(m_pValue)));
                 break;
         }
     }
-    out += text;
+    out += '"';
 }
 
 bool CKRMCAttribute::ClearValue() {

@@ -2,6 +2,8 @@
 #ifndef KRM_TREE_ATTRIBUTE_H_
 #define KRM_TREE_ATTRIBUTE_H_
 
+#include <string>
+
 #include "krm/tree/node.h"
 
 namespace krm::tree {
@@ -72,7 +74,9 @@ private:
     T* Held(krm_ulong type) const;
     template <class Number>
     bool SetNumber(CKRMError* error, krm_ulong type, Number value);
-    void AppendTo(CKRMString& out) const;
+    void AppendTo(std::string& out) const;
+
+    friend struct krm::tree::Chain;
 };
 
 #endif  // KRM_TREE_ATTRIBUTE_H_

@@ -1,5 +1,7 @@
 #include "krm/tree/chain.h"
 
+#include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -50,19 +52,40 @@ void Chain::Destroy(CKRMCNode* node) {
     }
 }
 
+// Each sibling is to describe its followers inside its own call. As long as that is the very operation of this class, it
+// is the same thing without a stack as long as the chain.
+CKRMCNode* Chain::AppendAttributes(const CKRMCAttribute& attribute, std::string& out) {
+    const CKRMCAttribute* appended = &attribute;
+    CKRMCNode* next = nullptr;
+    do {
+        appended->AppendTo(out);
+        next = appended->m_pcNext;
+        appended = ExactlyA<CKRMCAttribute>(next);
+    } while (appended != nullptr);
+    return next;
+}
+
 /// Writes elements and groups with an explicit stack of those that are open.
+///
+/// The text is collected and appended to the caller's string in larger pieces: every piece of a tag by itself would cost
+/// more than its copying. What describes itself gets the string with all that stands before it.
 class Chain::Describer {
 public:
     explicit Describer(CKRMString& out) : m_out(out) {}
 
     void Open(CKRMCElement& element) {
         m_result = 0;
-        m_out += "<";
-        m_out += element.m_strName;
-        if (element.m_pcFirstAttribute != nullptr) {
-            m_result = element.m_pcFirstAttribute->Description(m_out);
+        m_text += '<';
+        m_text += element.GetName();
+        CKRMCNode* attribute = element.m_pcFirstAttribute;
+        if (const CKRMCAttribute* const first = ExactlyA<CKRMCAttribute>(attribute)) {
+            attribute = AppendAttributes(*first, m_text);
         }
-        m_out += ">\n";
+        if (attribute != nullptr) {
+            Flush();
+            m_result = attribute->Description(m_out);
+        }
+        m_text += ">\n";
         m_open.push_back({&element, true});
         m_node = element.m_pcFirstGroup;
     }
@@ -82,10 +105,12 @@ public:
             } else if (CKRMCElementGroup* const group = ExactlyA<CKRMCElementGroup>(m_node)) {
                 Open(*group);
             } else {
+                Flush();
                 m_result = m_node->Description(m_out);  // its followers are its own business
                 m_node = nullptr;
             }
         }
+        Flush();
         return m_result;
     }
 
@@ -99,14 +124,25 @@ private:
         const Holder closed = m_open.back();
         m_open.pop_back();
         if (closed.isElement) {
-            m_out += "</";
-            m_out += closed.node->m_strName;
-            m_out += ">\n";
+            m_text += "</";
+            m_text += closed.node->GetName();
+            m_text += ">\n";
+            if (m_text.size() >= kPiece) {
+                Flush();
+            }
         }
         m_node = closed.node->m_pcNext;
     }
 
+    void Flush() {
+        m_out += m_text.c_str();
+        m_text.clear();
+    }
+
+    static constexpr std::size_t kPiece = 4096;
+
     CKRMString& m_out;
+    std::string m_text;  // what is not yet in m_out
     std::vector<Holder> m_open;
     CKRMCNode* m_node = nullptr;  // the next to describe; null at the end of a chain
     krm_ulong m_result = 0;       // of the last description in documented order

@@ -3,23 +3,37 @@
 #define KRM_TREE_CHAIN_H_
 
 #include <new>
+#include <string>
 #include <typeinfo>
 
 #include "krm/tree/node.h"
 #include "krm/tree/operation.h"
 
+class CKRMCAttribute;
 class CKRMCElement;
 class CKRMCElementGroup;
 
 namespace krm::tree {
 
+/// The kind that the nodes of a class have.
+template <class T>
+inline constexpr krm_ulong kKindOf = 0;
+template <>
+inline constexpr krm_ulong kKindOf<CKRMCAttribute> = kAttributeKind;
+template <>
+inline constexpr krm_ulong kKindOf<CKRMCElement> = kElementKind;
+template <>
+inline constexpr krm_ulong kKindOf<CKRMCElementGroup> = kElementGroupKind;
+
 /// `node` as a `T` when it is one and of no derived class, else null.
 ///
 /// Describing and destroying go on without recursion through such nodes alone: what an overriding class does in its
-/// Description or destructor must happen inside a call, and only the exact type tells that nothing is overridden.
+/// Description or destructor must happen inside a call, and only the exact type tells that nothing is overridden. The
+/// kind only saves looking at the types of most others, whose names would be compared.
 template <class T>
 T* ExactlyA(CKRMCNode* node) {
-    return node != nullptr && typeid(*node) == typeid(T) ? static_cast<T*>(node) : nullptr;
+    return node != nullptr && node->GetKind() == kKindOf<T> && typeid(*node) == typeid(T) ? static_cast<T*>(node)
+                                                                                          : nullptr;
 }
 
 /// The operations on chains, which alone reach the links of other nodes.
@@ -89,6 +103,10 @@ struct Chain {
 
     /// Destroys the chain that begins with `node`, which may be null.
     static void Destroy(CKRMCNode* node);
+
+    /// Appends the text of `attribute`, then of its followers as long as these are attributes of no derived class.
+    /// Returns the first that isn't, which describes itself and all after it; null at the end of the chain.
+    static CKRMCNode* AppendAttributes(const CKRMCAttribute& attribute, std::string& out);
 
     /// Describes `element` or `group` as its class does it, then its followers.
     static krm_ulong Describe(CKRMCElement& element, CKRMString& out);
