@@ -46,7 +46,8 @@ protected:
 };
 
 /// The regular operations of a record, written once: `class X : public RecordOf<X>`. X adds its fields with their
-/// defaults and `void Dump(const krm::RecordLines& line)`, which writes its log lines in order.
+/// defaults and `void Dump(const krm::RecordLines& line)`, which writes its log lines in order. It has no copy operations of
+/// its own: lists count on it that a copy is the same as a new record assigned to.
 ///
 /// Adds no data member and no virtual operation.
 template <class Record>
