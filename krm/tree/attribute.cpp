@@ -1,8 +1,5 @@
 #include "krm/tree/attribute.h"
 
-#include <array>
-#include <charconv>
-#include <cstdint>
 #include <new>
 #include <string>
 
@@ -20,20 +17,6 @@ CKRMString* NewString(const char* text) {
     } catch (const std::bad_alloc&) {  // the text's own memory
         return nullptr;
     }
-}
-
-// Integers, which most values are, look the same without the work of a format.
-template <class Integer>
-void AppendNumber(std::string& out, Integer number) {
-    std::array<char, 12> digits;  // a sign and the ten digits of 32 bits
-    out.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
-}
-
-template <class Number>
-void AppendFormatted(std::string& out, const char* format, Number number) {
-    CKRMString text;
-    text.Format(format, number);
-    out += text.GetText();
 }
 
 }  // namespace
@@ -68,36 +51,6 @@ krm_ulong CKRMCAttribute::Description(CKRMString& out) {
     CKRMCNode* const other = Chain::AppendAttributes(*this, text);
     out += text.c_str();
     return other != nullptr ? other->Description(out) : 0;
-}
-
-void CKRMCAttribute::AppendTo(std::string& out) const {
-    out += ' ';
-    out += GetName();
-    out += '[';
-    AppendNumber(out, static_cast<int>(m_ulValueType));
-    out += "]=\"";
-    if (m_pValue == nullptr) {
-        out += "NULL";
-    } else {
-        switch (m_ulValueType) {
-            case kStringValue:
-                out += GetString();
-                break;
-            case kDoubleValue:
-                AppendFormatted(out, "%lf", GetDouble());
-                break;
-            case kLongValue:
-                AppendNumber(out, GetLong());
-                break;
-            case kULongValue:
-                AppendNumber(out, GetULong());
-                break;
-            default:
-                AppendFormatted(out, "0x%08X", static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(m_pValue)));
-                break;
-        }
-    }
-    out += '"';
 }
 
 bool CKRMCAttribute::ClearValue() {

@@ -2,8 +2,6 @@
 #ifndef KRM_TREE_ATTRIBUTE_H_
 #define KRM_TREE_ATTRIBUTE_H_
 
-#include <string>
-
 #include "krm/tree/node.h"
 
 namespace krm::tree {
@@ -74,7 +72,6 @@ private:
     T* Held(krm_ulong type) const;
     template <class Number>
     bool SetNumber(CKRMError* error, krm_ulong type, Number value);
-    void AppendTo(std::string& out) const;
 
     friend struct krm::tree::Chain;
 };

@@ -1,6 +1,9 @@
 #include "krm/tree/chain.h"
 
+#include <array>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -10,6 +13,24 @@
 #include "krm/tree/element_group.h"
 
 namespace krm::tree {
+
+namespace {
+
+// Integers, which most values are, look the same without the work of a format.
+template <class Integer>
+void AppendNumber(std::string& out, Integer number) {
+    std::array<char, 12> digits;  // a sign and the ten digits of 32 bits
+    out.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
+}
+
+template <class Number>
+void AppendFormatted(std::string& out, const char* format, Number number) {
+    CKRMString text;
+    text.Format(format, number);
+    out += text.GetText();
+}
+
+}  // namespace
 
 /// Unlinks a chain that `node` owns and returns its head; null when there is none, or when the node's own destructor is
 /// to do it.
@@ -52,13 +73,44 @@ void Chain::Destroy(CKRMCNode* node) {
     }
 }
 
+void Chain::AppendAttribute(const CKRMCAttribute& attribute, std::string& out) {
+    out += ' ';
+    out += attribute.GetName();
+    out += '[';
+    AppendNumber(out, static_cast<int>(attribute.m_ulValueType));
+    out += "]=\"";
+    if (attribute.m_pValue == nullptr) {
+        out += "NULL";
+    } else {
+        switch (attribute.m_ulValueType) {
+            case kStringValue:
+                out += attribute.GetString();
+                break;
+            case kDoubleValue:
+                AppendFormatted(out, "%lf", attribute.GetDouble());
+                break;
+            case kLongValue:
+                AppendNumber(out, attribute.GetLong());
+                break;
+            case kULongValue:
+                AppendNumber(out, attribute.GetULong());
+                break;
+            default:
+                AppendFormatted(out, "0x%08X",
+                                static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(attribute.m_pValue)));
+                break;
+        }
+    }
+    out += '"';
+}
+
 // Each sibling is to describe its followers inside its own call. As long as that is the very operation of this class, it
 // is the same thing without a stack as long as the chain.
 CKRMCNode* Chain::AppendAttributes(const CKRMCAttribute& attribute, std::string& out) {
     const CKRMCAttribute* appended = &attribute;
     CKRMCNode* next = nullptr;
     do {
-        appended->AppendTo(out);
+        AppendAttribute(*appended, out);
         next = appended->m_pcNext;
         appended = ExactlyA<CKRMCAttribute>(next);
     } while (appended != nullptr);

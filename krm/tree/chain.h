@@ -115,6 +115,8 @@ struct Chain {
 private:
     class Describer;
 
+    static void AppendAttribute(const CKRMCAttribute& attribute, std::string& out);
+
     template <class T>
     static T* Allocate(const char* name) {
         try {
