@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/support/converters.h"
+#include "tests/support/failing_allocation.h"
 
 namespace krm::test {
 namespace {
@@ -128,7 +129,9 @@ TEST(ConverterFactory, EachCallGivesAnObjectOfItsOwn) {
 }
 
 TEST(ConverterFactory, DeletingNullDoesNothing) {
+    const long before = LivingBlocks();
     Base::DeleteConverter(nullptr);
+    EXPECT_EQ(LivingBlocks(), before);
 }
 
 TEST(ConverterFactory, DeletesThroughTheVirtualDestructor) {

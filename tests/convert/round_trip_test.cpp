@@ -40,6 +40,7 @@ constexpr Scaling kScalings[] = {
     {.name = "Percent", .mul = 100, .div = 255, .offset = 0, .decimals = 2},
     {.name = "Hundredths", .decimals = 2},
     {.name = "Negative", .mul = -5, .div = -8, .offset = 3},
+    {.name = "ZeroDivisor", .div = 0, .offset = -3},
     {.name = "NegativeDivisor", .div = -7, .offset = 65535, .decimals = 3},
     {.name = "Largest", .mul = kHighest, .div = kLowest, .offset = kHighest, .decimals = 9},
 };
@@ -159,7 +160,10 @@ TEST_P(RoundTrip, PhysicalLimitsClamp) {
     Differences differences;
     const bool falls = (GetParam().mul < 0) != (GetParam().div < 0);
     ForEveryRawValue([&](krm_ulong raw, std::int64_t number, double value, const Item& item) {
-        const krm_ulong rawLow = item.min == 0 ? item.max / 4 : item.min - (item.min - item.max) / 4;
+        // A quarter up from the lowest number, whichever way the sign code counts there.
+        const krm_ulong rawLow = item.min == 0    ? item.max / 4
+                                 : item.sign == 1 ? item.min + item.max / 4
+                                                  : item.min - (item.min - item.max) / 4;
         const krm_ulong rawHigh = item.max / 2;
         const std::int64_t low = NumberOf(rawLow, item.sign, item.bits);
         const std::int64_t high = NumberOf(rawHigh, item.sign, item.bits);
@@ -241,7 +245,7 @@ TEST(RoundTripWithoutMultiplier, GivesOneValueForAll) {
         for (unsigned short bits = 1; bits <= kMostBits; ++bits) {
             const krm_ulong half = krm_ulong{1} << (bits - 1);
             const krm_ulong expected = sign == 1 ? ~half + 1 : sign == 3 ? half : 0;
-            for (krm_ulong raw = 0; raw < 2 * half; raw += 1 + half / 64) {
+            for (krm_ulong raw = 0; raw < 2 * half; ++raw) {
                 double value = -1;
                 ASSERT_EQ(converter.ValueConversion(&value, raw, sign, bits, 0, 1, 7, 1), 0U);
                 EXPECT_EQ(value, 0.7);
@@ -275,6 +279,74 @@ TEST(RoundTripTruncated, LosesKnownHundredths) {
     }
     EXPECT_EQ(lost, (std::vector<krm_ulong>{29, 57, 58, 113, 114, 115, 116, 201, 203, 205, 207, 226, 228, 230, 232, 251,
                                             253, 255}));
+}
+
+// Sign codes without a meaning count as unsigned, both ways.
+TEST(RoundTripOfEverySignCode, RoundingBringsBackEveryValue) {
+    CKRMCCommandConvSignalData converter;
+    Differences differences;
+    for (unsigned sign = 0; sign <= 255; ++sign) {
+        const auto code = static_cast<unsigned char>(sign);
+        for (unsigned short bits = 1; bits <= 10; ++bits) {
+            for (krm_ulong raw = 0; raw < krm_ulong{1} << bits; ++raw) {
+                double value = kInfinity;
+                krm_ulong back = 0xDEADBEEFU;
+                ASSERT_EQ(converter.ValueConversion(&value, raw, code, bits, 5, 4, -400, 1), 0U);
+                ASSERT_EQ(converter.ConvLogicalValue(&back, value, code, bits, 5, 4, -400, 1, kInfinity, -kInfinity),
+                          0U);
+                differences.Expect(back == Returned(NumberOf(raw, sign, bits), sign), "not the number", raw, back, sign,
+                                   bits);
+            }
+        }
+    }
+}
+
+// A bit length of 0 counts as 32 on the way to the number. On the way back sign code 0, which alone is clamped to what the
+// bits hold, has none to hold anything.
+TEST(RoundTripOfNoBits, BringsBackAllButSignCode0) {
+    CKRMCCommandConvSignalData converter;
+    Differences differences;
+    const krm_ulong max = 0xFFFF;
+    const krm_ulong min = 0;
+    for (const unsigned char sign : std::vector<unsigned char>{0, 1, 2, 3}) {
+        for (krm_ulong raw = min; raw <= max; ++raw) {
+            double value = -1;
+            krm_ulong back = 0xDEADBEEFU;
+            ASSERT_EQ(converter.ValueConversion(&value, raw, sign, 0, 1, 1, 0, 0), 0U);
+            ASSERT_EQ(converter.ConvLogicalValue(&back, value, sign, 0, 1, 1, 0, 0, kInfinity, -kInfinity), 0U);
+            differences.Expect(back == (sign == 0 ? 0 : raw), "rounded", raw, back, sign, 0);
+            ASSERT_EQ(converter.ConvLogicalValue(&back, value, sign, 0, 1, 1, 0, 0, max, min), 0U);
+            differences.Expect(back == raw, "truncated", raw, back, sign, 0);
+        }
+    }
+}
+
+// Every class, those included that have a way of their own to the physical value: the way back is the base's.
+TEST(RoundTripThroughTheFactory, EndsInTheDocumentedValue) {
+    Differences differences;
+    for (const int code : AllCodes()) {
+        const ConverterPtr converter = Create(code);
+        for (const unsigned char sign : std::vector<unsigned char>{0, 1, 3}) {
+            const Item item{
+                .sign = sign, .bits = 12, .mul = 3, .div = 7, .offset = -40, .decimals = 1, .max = 0x7F0, .min = 0x810};
+            const Arguments arguments(item);
+            for (krm_ulong raw = 0; raw < 0x1000; ++raw) {
+                double value = 0;
+                krm_ulong back = 0xDEADBEEFU;
+                ASSERT_EQ(arguments.Value(*converter, &value, raw), 0U);
+                ASSERT_EQ(converter->ConvLogicalValue(&back, value, item.sign, item.bits, item.mul, item.div,
+                                                      item.offset, item.decimals, 1e6, -1e6),
+                          0U);
+                differences.Expect(back == reference::LogicalByPhysicalLimits(value, item, 1e6, -1e6), "rounded", raw,
+                                   back, sign, item.bits);
+                ASSERT_EQ(converter->ConvLogicalValue(&back, value, item.sign, item.bits, item.mul, item.div,
+                                                      item.offset, item.decimals, item.max, item.min),
+                          0U);
+                differences.Expect(back == reference::LogicalByRawLimits(value, item), "truncated", raw, back, sign,
+                                   item.bits);
+            }
+        }
+    }
 }
 
 }  // namespace

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <new>
+#include <set>
 #include <string>
 
+#include "krm/messages/auxiliary/viewer.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/words.h"
 #include "krm/tree/element.h"
@@ -88,6 +90,9 @@ TEST_F(OutOfMemory, AConverterWithoutItsLocaleGivesSubstitutes) {
     EXPECT_EQ(LivingBlocks(), before);
 }
 
+// Of these converters every text fits into a string without memory of its own.
+const std::set<int> kWithShortTexts = {5, 15, 16, 19, 105, 106, 107, 108, 109, 111, 113, 115};
+
 TEST_F(OutOfMemory, ConvertersLeaveTheRecordSound) {
     Arguments arguments({.bits = 255, .decimals = 200, .patterns = {{1, kLong, 1}}, .defaultText = kLong});
     const unsigned char bytes[40] = {'A'};
@@ -104,7 +109,8 @@ TEST_F(OutOfMemory, ConvertersLeaveTheRecordSound) {
                 arguments.Variable(*converter, &once, raw);
             });
             const auto unchanged = [&record] { EXPECT_STREQ(record.m_strDataPhys.GetText(), ""); };
-            FailEach([&] { arguments.Raw(*converter, &record, raw); }, unchanged);
+            const int failures = FailEach([&] { arguments.Raw(*converter, &record, raw); }, unchanged);
+            EXPECT_EQ(failures > 0, kWithShortTexts.count(code) == 0) << code;
             EXPECT_EQ(arguments.Raw(*converter, &record, raw), code == 113 ? kFailed : 0U);
         }
         FailEach([&] {
@@ -206,6 +212,34 @@ TEST_F(OutOfMemory, ATreeIsDescribedTheNextTime) {
                   root.RemoveAll();
               }),
               0);
+}
+
+TEST_F(OutOfMemory, NodesWhoseNameCannotBeCopied) {
+    EXPECT_EQ(FailEach([] { const CKRMCNode node(1, kLong); }), 1);
+    EXPECT_EQ(FailEach([] { const CKRMCAttribute node(kLong); }), 1);
+    EXPECT_EQ(FailEach([] { const CKRMCElement node(kLong); }), 1);
+    EXPECT_EQ(FailEach([] { const CKRMCElementGroup node(kLong); }), 1);
+}
+
+TEST_F(OutOfMemory, ListsOfPlainStructures) {
+    CKRMList<CKRMCDbHelpInfo> list;
+    CKRMCDbHelpInfo help;
+    help.m_strHelpInfo = kLong;
+    EXPECT_EQ(FailEach([&] { list.AddTail(help); }, [&] { EXPECT_EQ(list.GetHeadPosition(), nullptr); }), 2);
+    EXPECT_EQ(FailEach([&] { list.InsertAt(0, help); }, [&] { EXPECT_EQ(list.GetCount(), 1); }), 2);
+    CKRMList<CKRMCDbHelpInfo> joined;
+    bool failed = false;
+    try {
+        const FailAllocations failing(3);
+        joined.AddTail(&list);
+    } catch (const std::bad_alloc&) {
+        failed = true;
+    }
+    EXPECT_TRUE(failed);
+    ASSERT_EQ(joined.GetCount(), 1);  // what was appended before stays
+    EXPECT_EQ(joined.GetHeadPosition(), joined.GetTailPosition());
+    EXPECT_STREQ(joined.GetAt(0).m_strHelpInfo.GetText(), kLong);
+    EXPECT_EQ(list.GetCount(), 2);
 }
 
 }  // namespace

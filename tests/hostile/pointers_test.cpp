@@ -165,5 +165,59 @@ TEST(NullPointers, OfBuffersLeaveThemAsTheyAre) {
     EXPECT_EQ(binary.GetSize(), 4U);
 }
 
+template <class Base>
+void ExpectNullFormatIsAnEmptyLine() {
+    const LogCapture log(-7);
+    Base message;
+    EXPECT_EQ(message.ER_WriteOperationLogFormat(NoText(), 0), -7);
+    EXPECT_THAT(log.Texts(), ElementsAre(""));
+}
+
+TEST(NullPointers, OfFormatsInEveryFamily) {
+    ExpectNullFormatIsAnEmptyLine<CKRMCBaseCmdAdaptData>();
+    ExpectNullFormatIsAnEmptyLine<CKRMCBaseDsdiAdaptData>();
+    ExpectNullFormatIsAnEmptyLine<CKRMCBaseUccAdaptData>();
+    ExpectNullFormatIsAnEmptyLine<CKRMCBaseDwtAdaptData>();
+}
+
+TEST(NullPointers, OfNamesGiveEmptyNames) {
+    const CKRMCAttribute text(NoText(), "x");
+    const CKRMCAttribute real(NoText(), 2.5);
+    const CKRMCAttribute number(NoText(), krm_ulong{7});
+    EXPECT_STREQ(text.GetName(), "");
+    EXPECT_STREQ(text.GetString(), "x");
+    EXPECT_STREQ(real.GetName(), "");
+    EXPECT_EQ(real.GetDouble(), 2.5);
+    EXPECT_STREQ(number.GetName(), "");
+    EXPECT_EQ(number.GetULong(), 7U);
+    CKRMCElementGroup group(NoText());
+    const CKRMCElement* const child = group.CreateElement(nullptr);
+    ASSERT_NE(child, nullptr);
+    EXPECT_STREQ(child->GetName(), "");
+}
+
+TEST(NullPointers, OfErrorsInFailingTreeOperations) {
+    CKRMCElement element("E");
+    CKRMCElement other("E");
+    CKRMCElement stranger("C");
+    CKRMCAttribute probe("A", krm_long{1});
+    EXPECT_FALSE(element.RemoveElementGroup(nullptr, other.CreateElementGroup(nullptr, "C")));
+    EXPECT_FALSE(element.RemoveElement(nullptr, &stranger));  // no group of its name
+    CKRMCElement* const child = element.CreateElement(nullptr, "C");
+    ASSERT_NE(child, nullptr);
+    ASSERT_NE(child->CreateAttribute(nullptr, "A"), nullptr);
+    EXPECT_FALSE(element.RemoveElement(nullptr, &stranger));  // not in that group
+    EXPECT_FALSE(element.GetFirstGroup()->RemoveElement(nullptr, &stranger));
+    EXPECT_EQ(element.GetAttribute(nullptr, "None"), nullptr);
+    EXPECT_EQ(element.GetElementGroup(nullptr, "None"), nullptr);
+    EXPECT_EQ(element.GetFirstElement(nullptr, "None"), nullptr);
+    EXPECT_EQ(element.GetElementByAttribute(nullptr, "None", &probe), nullptr);
+    EXPECT_EQ(element.GetElementByAttribute(nullptr, "C", &probe), nullptr);  // the only one there is empty
+    EXPECT_EQ(element.GetElementByAttribute(nullptr, nullptr, nullptr), nullptr);
+    CKRMString text;
+    element.Description(text);
+    EXPECT_STREQ(text.GetText(), "<E>\n<C A[0]=\"NULL\">\n</C>\n</E>\n");
+}
+
 }  // namespace
 }  // namespace krm::test

@@ -191,5 +191,39 @@ TEST(Megabyte, OfAnErrorsDetails) {
     EXPECT_EQ(copy.GetErrorCode(), 5U);
 }
 
+TEST(Megabyte, OfALineWithNuls) {
+    std::string all(kMegabyte, '\0');
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i] = static_cast<char>(i % 256);
+    }
+    const LogCapture log;
+    EXPECT_EQ(KRMC_ER_WriteOperationLog(all.data(), static_cast<krm_ulong>(all.size()), 4, 2), 0);
+    ASSERT_THAT(log.Lines(), SizeIs(1));
+    ExpectSame(log.Lines()[0].text, all);
+}
+
+TEST(Megabyte, OfFormattedLines) {
+    const std::string all = Every(36);
+    const LogCapture log;
+    CKRMCCommandWordsData().ER_WriteOperationLogFormatStructure("<%s>", all.c_str());
+    CKRMCGetTranslationStringCmdAdaptDataSnd().ER_WriteOperationLogFormat("<%s>", all.c_str());
+    ASSERT_THAT(log.Lines(), SizeIs(2));
+    ExpectSame(log.Lines()[0].text, "<" + all + ">");
+    ExpectSame(log.Lines()[1].text, "<" + all + ">");
+}
+
+TEST(Megabyte, OfComparedAttributes) {
+    const std::string all = Every(9);
+    std::string differs = all;
+    differs.back() = differs.back() == 'x' ? 'y' : 'x';
+    CKRMError error;
+    CKRMCAttribute one("A", all.c_str());
+    CKRMCAttribute same("A", all.c_str());
+    CKRMCAttribute other("A", differs.c_str());
+    EXPECT_TRUE(one.CompareValue(&error, &same));
+    EXPECT_FALSE(one.CompareValue(&error, &other));
+    EXPECT_EQ(error.a_ulReturnCode, 0U);
+}
+
 }  // namespace
 }  // namespace krm::test

@@ -11,6 +11,9 @@
 #include "krm/core/binary.h"
 #include "krm/tree/element.h"
 #include "krm/tree/element_group.h"
+#include "tests/messages/auxiliary/stored_data_fields.h"
+#include "tests/messages/auxiliary/unit_conversion_fields.h"
+#include "tests/messages/auxiliary/words_table_fields.h"
 #include "tests/messages/diag/trouble_codes_fields.h"
 #include "tests/messages/diag/words_fields.h"
 #include "tests/support/converters.h"
@@ -172,6 +175,9 @@ std::string Work(unsigned number, LogByThread& log) {
         CopyConvertersOfLocales(out);
         CopyAndDump<CKRMCGetDTCCmdAdaptDataRcv>(seed, log, out);
         CopyAndDump<CKRMCGetTranslationStringCmdAdaptDataRcv>(seed, log, out);
+        CopyAndDump<CKRMCGetImportFileInfoDsdiAdaptDataRcv>(seed, log, out);
+        CopyAndDump<CKRMCGetUnitConversionInfoListUccAdaptDataRcv>(seed, log, out);
+        CopyAndDump<CKRMCGetTranslationStringDwtAdaptDataRcv>(seed, log, out);
         UseLists(seed, out);
         UseTree(seed, out);
         UseBufferAndMap(seed, out);

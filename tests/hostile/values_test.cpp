@@ -9,8 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "krm/tree/element.h"
 #include "tests/support/converters.h"
 #include "tests/support/fields.h"
+#include "tests/support/log_capture.h"
 
 namespace krm::test {
 namespace {
@@ -56,6 +58,7 @@ std::string WithoutSignOfNaN(std::string text) {
 class HostileValues : public ::testing::TestWithParam<int> {
 protected:
     int Code() const { return GetParam(); }
+    bool IsExact() const { return Code() != 102 && Code() != 114; }  // those use functions of the C library
     bool HasLocaleText() const { return Code() == 105 || Code() == 106; }
     bool HasPatternText() const { return Code() == 1 || Code() == 20 || Code() == 22; }
     CKRMCCommandConvSignalData& Converter() { return *m_converter; }
@@ -108,7 +111,6 @@ TEST_P(HostileValues, PhysicalValues) {
     if (!reference::kHasExtendedPrecision) {
         GTEST_SKIP() << "this compiler's long double can't hold the reference";
     }
-    const bool exact = Code() != 102 && Code() != 114;  // functions of the C library
     Seed seed(static_cast<unsigned>(Code()) + 1);
     for (int round = 0; round < 3000; ++round) {
         const Item item{.sign = AnyOf(kSigns, seed),
@@ -121,7 +123,7 @@ TEST_P(HostileValues, PhysicalValues) {
         double value = 1;
         ASSERT_EQ(Arguments(item).Value(Converter(), &value, raw), 0U);
         const double expected = reference::ValueOf(Code(), raw, item);
-        ASSERT_TRUE(exact ? SameDouble(value, expected) : NearlySameDouble(value, expected))
+        ASSERT_TRUE(IsExact() ? SameDouble(value, expected) : NearlySameDouble(value, expected))
             << value << ", not " << expected << ": raw " << raw << ", sign " << +item.sign << ", " << item.bits
             << " bits, x " << item.mul << " / " << item.div << " + " << item.offset << ", " << +item.decimals
             << " places";
@@ -138,7 +140,9 @@ TEST_P(HostileValues, PhysicalValuesWithEveryCountOfDecimals) {
         for (const krm_ulong raw : {0x12345678U, 0xFEDCBA98U}) {
             double value = 1;
             ASSERT_EQ(Arguments(item).Value(Converter(), &value, raw), 0U);
-            EXPECT_TRUE(NearlySameDouble(value, reference::ValueOf(Code(), raw, item))) << raw << ' ' << decimals;
+            const double expected = reference::ValueOf(Code(), raw, item);
+            EXPECT_TRUE(IsExact() ? SameDouble(value, expected) : NearlySameDouble(value, expected))
+                << raw << ' ' << decimals;
         }
     }
 }
@@ -173,10 +177,82 @@ TEST_P(HostileValues, WayBack) {
     }
 }
 
-TEST_P(HostileValues, LocaleTextsOfWhatIsNoDateOrTime) {
-    if (!HasLocaleText()) {
-        return;  // the others' texts are compared above
+TEST_P(HostileValues, WayBackWithEveryCountOfDecimals) {
+    for (unsigned decimals = 0; decimals <= 255; ++decimals) {
+        const Item item{.sign = 1,
+                        .bits = 16,
+                        .mul = 7,
+                        .div = -3,
+                        .offset = -9,
+                        .decimals = static_cast<unsigned char>(decimals),
+                        .max = 0x7FFF,
+                        .min = 0x8000};
+        for (const double value : kDoubles) {
+            krm_ulong raw = 1;
+            ASSERT_EQ(Converter().ConvLogicalValue(&raw, value, item.sign, item.bits, item.mul, item.div, item.offset,
+                                                   item.decimals, Limits::infinity(), -Limits::infinity()),
+                      0U);
+            ASSERT_EQ(raw, reference::LogicalByPhysicalLimits(value, item, Limits::infinity(), -Limits::infinity()));
+            ASSERT_EQ(Converter().ConvLogicalValue(&raw, value, item.sign, item.bits, item.mul, item.div, item.offset,
+                                                   item.decimals, item.max, item.min),
+                      0U);
+            ASSERT_EQ(raw, reference::LogicalByRawLimits(value, item));
+        }
     }
+}
+
+TEST_P(HostileValues, BytesDisregardTheNumbers) {
+    const unsigned char bytes[] = {0xE9, 0x41};
+    Seed seed(static_cast<unsigned>(Code()) + 2000);
+    for (int round = 0; round < 500; ++round) {
+        CKRMCCommandDispData record;
+        ASSERT_EQ(Converter().ConvCommandDispData(
+                      &record, bytes, sizeof bytes, AnyOf(kSigns, seed), AnyOf(kBitLengths, seed),
+                      AnyOf(kFactors, seed), AnyOf(kFactors, seed), AnyOf(kFactors, seed),
+                      static_cast<unsigned char>(seed.Next() >> 8U), AnyOf(kRaws, seed), AnyOf(kRaws, seed), nullptr),
+                  0U);
+        ASSERT_EQ(record.m_ulRawData, 0xE9U);
+        ASSERT_EQ(record.m_dDataPhys, 233.0);
+        ASSERT_STREQ(record.m_strDataPhys.GetText(), Code() == 104 ? "E941"
+                                                                   : "\xE9"
+                                                                     "A");
+    }
+}
+
+TEST(HostileDoubles, InALog) {
+    for (const double value : kDoubles) {
+        CKRMCCommandDispData record;
+        record.m_dDataPhys = value;
+        record.m_dData = -value;
+        const std::vector<std::string> lines = RecordLinesOf(record);
+        ASSERT_EQ(lines.size(), 9U);
+        EXPECT_EQ(WithoutSignOfNaN(lines[3]), "P.m_dDataPhys=" + reference::FixedPoint(value, 6));
+        EXPECT_EQ(WithoutSignOfNaN(lines[4]), "P.m_dData=" + reference::FixedPoint(-value, 6));
+    }
+}
+
+TEST(HostileDoubles, InATree) {
+    for (const double value : kDoubles) {
+        CKRMError error;
+        CKRMCElement root("R");
+        CKRMCElement* const child = root.CreateElement(&error, "C");
+        ASSERT_NE(child, nullptr);
+        ASSERT_TRUE(child->CreateAttribute(&error, "A")->SetValue(&error, value));
+        EXPECT_TRUE(SameDouble(child->GetAttribute(&error, "A")->GetDouble(), value)) << value;
+        CKRMCAttribute wanted("A", value);
+        EXPECT_EQ(root.GetElementByAttribute(&error, "C", &wanted), std::isnan(value) ? nullptr : child) << value;
+        EXPECT_EQ(error.a_ulReturnCode, 0U);
+        CKRMString text;
+        root.Description(text);
+        EXPECT_EQ(WithoutSignOfNaN(text.GetText()),
+                  "<R>\n<C A[2]=\"" + reference::FixedPoint(value, 6) + "\">\n</C>\n</R>\n");
+    }
+}
+
+// The others' texts are compared above.
+class HostileLocaleValues : public HostileValues {};
+
+TEST_P(HostileLocaleValues, TextsOfWhatIsNoDateOrTime) {
     for (const double phys : {Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(), Limits::max(), -1.0}) {
         // What no integer holds counts as 0: no date, but midnight.
         const bool isMidnight = Code() == 106 && phys != -1;
@@ -185,6 +261,8 @@ TEST_P(HostileValues, LocaleTextsOfWhatIsNoDateOrTime) {
     }
 }
 
+INSTANTIATE_TEST_SUITE_P(Converters, HostileLocaleValues, ::testing::Values(105, 106),
+                         [](const auto& it) { return "Type" + std::to_string(it.param); });
 INSTANTIATE_TEST_SUITE_P(Converters, HostileValues, ::testing::ValuesIn(AllCodes()),
                          [](const auto& it) { return "Type" + std::to_string(it.param); });
 

@@ -265,13 +265,19 @@ TEST(Attribute, WithoutMemoryAnEmptyOneReportsToo) {
 
 TEST(Attribute, AConstructorWithoutMemoryGivesAnEmptyOne) {
     KRM_SKIP_WITHOUT_FAILING_ALLOCATIONS();
-    krm_ulong types[2] = {9, 9};
+    krm_ulong types[5] = {9, 9, 9, 9, 9};
     {
         const FailAllocations failing(0);
         types[0] = CKRMCAttribute("A", 2.5).GetValueType();
         types[1] = CKRMCAttribute("A", "x").GetValueType();
+        types[2] = CKRMCAttribute("A", krm_long{1}).GetValueType();
+        types[3] = CKRMCAttribute("A", krm_ulong{1}).GetValueType();
     }
-    EXPECT_THAT(types, ElementsAre(0u, 0u));
+    {
+        const FailAllocations failing(1);  // the text's own memory
+        types[4] = CKRMCAttribute("A", kLongText).GetValueType();
+    }
+    EXPECT_THAT(types, ElementsAre(0u, 0u, 0u, 0u, 0u));
 }
 
 TEST(CompareValue, EqualValuesOfOneType) {

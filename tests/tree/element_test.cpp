@@ -918,5 +918,24 @@ TEST(LargeTree, NestedAHundredThousandDeep) {
     });
 }
 
+TEST(CreateElement, WithoutMemoryAtAnyStep) {
+    KRM_SKIP_WITHOUT_FAILING_ALLOCATIONS();
+    for (int successes = 0; successes < 4; ++successes) {  // the group, its name, the element, its name
+        CKRMError error;
+        CKRMCElement element("E");
+        const CKRMCElement* child = &element;
+        const long before = LivingBlocks();
+        {
+            const FailAllocations failing(successes);
+            child = element.CreateElement(&error, kLongName);
+        }
+        EXPECT_EQ(before + (successes < 2 ? 0 : 2), LivingBlocks()) << successes;
+        EXPECT_EQ(nullptr, child) << successes;
+        EXPECT_EQ(2100100002u, error.a_ulReturnCode) << successes;
+        EXPECT_EQ(successes >= 2, element.GetFirstGroup() != nullptr) << successes;
+        EXPECT_EQ("<E>\n</E>\n", Described(element));
+    }
+}
+
 }  // namespace
 }  // namespace krm::test
