@@ -83,6 +83,19 @@ void Integers(Input& input) {
     KRM_SAME_AS_PRINTED("%c|%*c|%%", character == 0 ? 'x' : character, width, 'y');
 }
 
+/// What "%#.*g" prints by the C standard. The C library's own drops the zeros of a value that rounds up to the next power
+/// of ten: it makes "1.e+06" of 999999.99, where "1.00000e+06" is due.
+std::string General(double value, int precision, bool upper) {
+    if (!std::isfinite(value)) {
+        return upper ? Expected("%#G", value) : Expected("%#g", value);
+    }
+    const int significant = precision < 0 ? 6 : precision == 0 ? 1 : precision;
+    const std::string scientific =
+        upper ? Expected("%#.*E", significant - 1, value) : Expected("%#.*e", significant - 1, value);
+    const int exponent = std::stoi(scientific.substr(scientific.find(upper ? 'E' : 'e') + 1));
+    return exponent < -4 || exponent >= significant ? scientific : Expected("%#.*f", significant - 1 - exponent, value);
+}
+
 void Reals(Input& input) {
     const int width = Size(input);
     const int precision = Size(input);
@@ -90,7 +103,10 @@ void Reals(Input& input) {
     KRM_SAME_AS_PRINTED("%s.m_dDataPhys=%lf", "prefix", value);
     KRM_SAME_AS_PRINTED("%*.*f|%-*.*F|%+f|% f", width, precision, value, width, precision, value, value, value);
     KRM_SAME_AS_PRINTED("%*.*e|%E|%#.*e", width, precision, value, value, precision, value);
-    KRM_SAME_AS_PRINTED("%*.*g|%G|%#.*g|%#G", width, precision, value, value, precision, value, value);
+    KRM_SAME_AS_PRINTED("%*.*g|%G", width, precision, value, value);
+    CKRMString general;
+    general.Format("%#.*g|%#G", precision, value, value);
+    KRM_FUZZ_CHECK(Bytes(general) == General(value, precision, false) + '|' + General(value, -1, true));
     KRM_SAME_AS_PRINTED("%0*.*f|%#.0f|%.0f", width, precision, value, value, value);
 }
 

@@ -181,6 +181,17 @@ TEST(FormatTest, WidthAndPrecisionFromTheArguments) {
     EXPECT_EQ(Formatted("%*d", std::numeric_limits<int>::min(), 7), "7");
 }
 
+// GNU's printf drops these zeros, as "1.e+06"; the C standard keeps them.
+TEST(FormatTest, GeneralWithItsZerosRoundsUpToAPowerOfTen) {
+    EXPECT_EQ("1.00000e+06", Formatted("%#g", 999999.99));
+    EXPECT_EQ("1.0E+02", Formatted("%#.2G", 99.9));
+    EXPECT_EQ("1.e+02", Formatted("%#.0g", 99.9));
+    EXPECT_EQ("100.", Formatted("%#.3g", 99.99));
+    EXPECT_EQ("100000.", Formatted("%#g", 99999.99));
+    EXPECT_EQ("1.000e-05", Formatted("%#.4g", 0.00000999999));
+    EXPECT_EQ("0.0001000", Formatted("%#.4g", 0.0000999999));
+}
+
 TEST(FormatTest, PercentPrintsItself) {
     EXPECT_EQ(Formatted("100%% of %d%%", 5), "100% of 5%");
 }
