@@ -48,7 +48,8 @@ CKRMCAttribute::~CKRMCAttribute() {
 
 krm_ulong CKRMCAttribute::Description(CKRMString& out) {
     std::string text;
-    CKRMCNode* const other = Chain::AppendAttributes(*this, text);
+    Chain::AppendAttribute(*this, text);  // this one in any case: a derived class calls its base's
+    CKRMCNode* const other = Chain::AppendAttributes(m_pcNext, text);
     out += text.c_str();
     return other != nullptr ? other->Description(out) : 0;
 }

@@ -106,15 +106,12 @@ void Chain::AppendAttribute(const CKRMCAttribute& attribute, std::string& out) {
 
 // Each sibling is to describe its followers inside its own call. As long as that is the very operation of this class, it
 // is the same thing without a stack as long as the chain.
-CKRMCNode* Chain::AppendAttributes(const CKRMCAttribute& attribute, std::string& out) {
-    const CKRMCAttribute* appended = &attribute;
-    CKRMCNode* next = nullptr;
-    do {
-        AppendAttribute(*appended, out);
-        next = appended->m_pcNext;
-        appended = ExactlyA<CKRMCAttribute>(next);
-    } while (appended != nullptr);
-    return next;
+CKRMCNode* Chain::AppendAttributes(CKRMCNode* node, std::string& out) {
+    while (const CKRMCAttribute* const attribute = ExactlyA<CKRMCAttribute>(node)) {
+        AppendAttribute(*attribute, out);
+        node = attribute->m_pcNext;
+    }
+    return node;
 }
 
 /// Writes elements and groups with an explicit stack of those that are open.
@@ -129,13 +126,9 @@ public:
         m_result = 0;
         m_text += '<';
         m_text += element.GetName();
-        CKRMCNode* attribute = element.m_pcFirstAttribute;
-        if (const CKRMCAttribute* const first = ExactlyA<CKRMCAttribute>(attribute)) {
-            attribute = AppendAttributes(*first, m_text);
-        }
-        if (attribute != nullptr) {
+        if (CKRMCNode* const other = AppendAttributes(element.m_pcFirstAttribute, m_text)) {
             Flush();
-            m_result = attribute->Description(m_out);
+            m_result = other->Description(m_out);
         }
         m_text += ">\n";
         m_open.push_back({&element, true});

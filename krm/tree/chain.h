@@ -104,9 +104,11 @@ struct Chain {
     /// Destroys the chain that begins with `node`, which may be null.
     static void Destroy(CKRMCNode* node);
 
-    /// Appends the text of `attribute`, then of its followers as long as these are attributes of no derived class.
-    /// Returns the first that isn't, which describes itself and all after it; null at the end of the chain.
-    static CKRMCNode* AppendAttributes(const CKRMCAttribute& attribute, std::string& out);
+    /// Appends the text of `attribute` alone.
+    static void AppendAttribute(const CKRMCAttribute& attribute, std::string& out);
+    /// Appends the texts from `node` on, which may be null, as long as these are attributes of no derived class. Returns
+    /// the first that isn't, which describes itself and all after it; null at the end of the chain.
+    static CKRMCNode* AppendAttributes(CKRMCNode* node, std::string& out);
 
     /// Describes `element` or `group` as its class does it, then its followers.
     static krm_ulong Describe(CKRMCElement& element, CKRMString& out);
@@ -114,8 +116,6 @@ struct Chain {
 
 private:
     class Describer;
-
-    static void AppendAttribute(const CKRMCAttribute& attribute, std::string& out);
 
     template <class T>
     static T* Allocate(const char* name) {
