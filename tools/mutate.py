@@ -66,8 +66,8 @@ TESTS_OF_HEADERS = {
     "krm/framework/commands.h": ["tests/framework/commands_test.cpp", "tests/framework/message_test.cpp"],
     "krm/platform/platform.h": ["tests/platform/map_test.cpp", "tests/platform/string_test.cpp",
                                 "tests/platform/error_test.cpp", "tests/framework/message_test.cpp"],
-    "krm/convert/extended.h": ["tests/convert/extended_test.cpp", "tests/convert/base_conversions_test.cpp"],
-    "krm/convert/numbers.h": ["tests/convert/decimal_text_test.cpp", "tests/convert/base_conversions_test.cpp"],
+    "krm/convert/internal/extended.h": ["tests/convert/extended_test.cpp", "tests/convert/base_conversions_test.cpp"],
+    "krm/convert/internal/numbers.h": ["tests/convert/decimal_text_test.cpp", "tests/convert/base_conversions_test.cpp"],
 }
 
 MEMORY_LIMIT = 6 << 30

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "krm/platform/config.h"
+#include "krm/core/types.h"
 
 namespace diagnosis_session {
 

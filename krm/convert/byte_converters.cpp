@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string>
 
-#include "krm/convert/numbers.h"
+#include "krm/convert/internal/numbers.h"
 
 using krm::kNullPointer;
 

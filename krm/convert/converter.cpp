@@ -6,8 +6,8 @@
 #include <cstring>
 #include <limits>
 
-#include "krm/convert/extended.h"
-#include "krm/convert/numbers.h"
+#include "krm/convert/internal/extended.h"
+#include "krm/convert/internal/numbers.h"
 
 using krm::kNullPointer;
 using krm::convert::DecimalText;

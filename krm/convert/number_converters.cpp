@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "krm/convert/numbers.h"
+#include "krm/convert/internal/numbers.h"
 
 using krm::kNullPointer;
 using krm::convert::Divides;

@@ -1,6 +1,6 @@
 #include "krm/convert/pattern_converters.h"
 
-#include "krm/convert/numbers.h"
+#include "krm/convert/internal/numbers.h"
 
 using krm::kNullPointer;
 using krm::convert::ResetStringId;

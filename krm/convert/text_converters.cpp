@@ -3,8 +3,8 @@
 #include <array>
 #include <cstddef>
 
-#include "krm/convert/numbers.h"
-#include "krm/convert/short_text.h"
+#include "krm/convert/internal/numbers.h"
+#include "krm/convert/internal/short_text.h"
 
 using krm::kNullPointer;
 using krm::convert::BeginText;

@@ -1,8 +1,8 @@
 #include "krm/convert/time_converters.h"
 
-#include "krm/convert/numbers.h"
-#include "krm/convert/short_text.h"
-#include "krm/convert/user_locale.h"
+#include "krm/convert/internal/numbers.h"
+#include "krm/convert/internal/short_text.h"
+#include "krm/convert/internal/user_locale.h"
 
 using krm::kNullPointer;
 using krm::convert::BeginText;

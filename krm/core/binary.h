@@ -1,10 +1,10 @@
 // CKRMBinary: a byte block of fixed size with one cursor, to write raw data in one after the other and to read it out.
 //
-// Includes only the shared types. No record or message holds one.
+// No record or message holds one.
 #ifndef KRM_CORE_BINARY_H_
 #define KRM_CORE_BINARY_H_
 
-#include "krm/platform/config.h"
+#include "krm/core/types.h"
 
 /// An owned block of bytes with one cursor for reading and writing.
 ///

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "krm/platform/config.h"
+#include "krm/core/types.h"
 
 namespace krm {
 

@@ -3,8 +3,10 @@
 #define KRM_FRAMEWORK_RECORD_H_
 
 #include <cstdarg>
+#include <type_traits>
 
-#include "krm/platform/config.h"
+#include "krm/core/list.h"
+#include "krm/core/types.h"
 
 class CKRMCBaseAdaptDataStructure;
 
@@ -65,5 +67,9 @@ public:
         return 0;
     }
 };
+
+template <class Record>
+requires std::is_base_of_v<RecordOf<Record>, Record>
+inline constexpr bool krm::kCopiedInOneStep<Record> = true;
 
 #endif  // KRM_FRAMEWORK_RECORD_H_

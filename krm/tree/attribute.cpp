@@ -3,8 +3,8 @@
 #include <new>
 #include <string>
 
-#include "krm/tree/chain.h"
-#include "krm/tree/operation.h"
+#include "krm/tree/internal/chain.h"
+#include "krm/tree/internal/operation.h"
 
 using namespace krm::tree;
 

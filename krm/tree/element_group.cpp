@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "krm/tree/chain.h"
-#include "krm/tree/operation.h"
+#include "krm/tree/internal/chain.h"
+#include "krm/tree/internal/operation.h"
 
 using namespace krm::tree;
 

@@ -1,6 +1,6 @@
 #include "krm/tree/node.h"
 
-#include "krm/tree/chain.h"
+#include "krm/tree/internal/chain.h"
 
 CKRMCNode::CKRMCNode(krm_ulong kind, const char* name)
     : m_ulKind(kind), m_pcNext(nullptr), m_pcPrev(nullptr), m_pcParent(nullptr) {

@@ -14,7 +14,7 @@
 #ifndef KRM_TREE_NODE_H_
 #define KRM_TREE_NODE_H_
 
-#include "krm/platform/config.h"
+#include "krm/core/types.h"
 #include "krm/platform/platform.h"
 
 namespace krm::tree {

@@ -1,5 +1,5 @@
 // Extended precision in integers gives bit for bit what the processor's gives.
-#include "krm/convert/extended.h"
+#include "krm/convert/internal/extended.h"
 
 #include <gtest/gtest.h>
 

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "krm/platform/config.h"
+#include "krm/core/types.h"
 #include "tests/support/c_locale.h"
 
 namespace krm::test {

@@ -1,13 +1,13 @@
 // Chains of siblings: how nodes are appended, found, removed, described and destroyed. Part of the tree's inside.
-#ifndef KRM_TREE_CHAIN_H_
-#define KRM_TREE_CHAIN_H_
+#ifndef KRM_TREE_INTERNAL_CHAIN_H_
+#define KRM_TREE_INTERNAL_CHAIN_H_
 
 #include <new>
 #include <string>
 #include <typeinfo>
 
+#include "krm/tree/internal/operation.h"
 #include "krm/tree/node.h"
-#include "krm/tree/operation.h"
 
 class CKRMCAttribute;
 class CKRMCElement;
@@ -131,4 +131,4 @@ private:
 
 }  // namespace krm::tree
 
-#endif  // KRM_TREE_CHAIN_H_
+#endif  // KRM_TREE_INTERNAL_CHAIN_H_

@@ -1,6 +1,6 @@
 // printf-style formatting that no locale and no C library's peculiarity reaches. Part of the platform library's inside.
-#ifndef KRM_PLATFORM_FORMAT_H_
-#define KRM_PLATFORM_FORMAT_H_
+#ifndef KRM_PLATFORM_INTERNAL_FORMAT_H_
+#define KRM_PLATFORM_INTERNAL_FORMAT_H_
 
 #include <cstdarg>
 #include <string>
@@ -18,4 +18,4 @@ void AssignFormatted(std::string& result, const char* format, std::va_list argum
 
 }  // namespace krm::platform
 
-#endif  // KRM_PLATFORM_FORMAT_H_
+#endif  // KRM_PLATFORM_INTERNAL_FORMAT_H_

@@ -1,7 +1,7 @@
 // The user's locale, for the two converters that follow it. Part of the library's inside, and the one place that knows
 // the system's ways of writing a date.
-#ifndef KRM_CONVERT_USER_LOCALE_H_
-#define KRM_CONVERT_USER_LOCALE_H_
+#ifndef KRM_CONVERT_INTERNAL_USER_LOCALE_H_
+#define KRM_CONVERT_INTERNAL_USER_LOCALE_H_
 
 #include <memory>
 
@@ -46,4 +46,4 @@ private:
 
 }  // namespace krm::convert
 
-#endif  // KRM_CONVERT_USER_LOCALE_H_
+#endif  // KRM_CONVERT_INTERNAL_USER_LOCALE_H_

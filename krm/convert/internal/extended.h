@@ -4,8 +4,8 @@
 // The physical value of a signal is defined in this precision; plain double differs in the last bit for one scaling in
 // eight. Where the compiler's long double is just this, it is used. Elsewhere (MSVC), and on Windows, where a program may
 // have set the processor to 53 bits, SoftExtended computes the same in integers.
-#ifndef KRM_CONVERT_EXTENDED_H_
-#define KRM_CONVERT_EXTENDED_H_
+#ifndef KRM_CONVERT_INTERNAL_EXTENDED_H_
+#define KRM_CONVERT_INTERNAL_EXTENDED_H_
 
 #include <bit>
 #include <cfloat>
@@ -13,7 +13,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "krm/platform/config.h"
+#include "krm/core/types.h"
 
 namespace krm::convert {
 
@@ -175,4 +175,4 @@ using Extended = SoftExtended;
 
 }  // namespace krm::convert
 
-#endif  // KRM_CONVERT_EXTENDED_H_
+#endif  // KRM_CONVERT_INTERNAL_EXTENDED_H_

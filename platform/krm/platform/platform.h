@@ -11,7 +11,7 @@
 #include <string>
 
 #include "krm/core/list.h"
-#include "krm/platform/config.h"
+#include "krm/core/types.h"
 
 /// A text of bytes. Copies are deep; an empty string allocates nothing.
 ///

@@ -1,6 +1,6 @@
 // Arithmetic and texts that the converters share. Part of the library's inside.
-#ifndef KRM_CONVERT_NUMBERS_H_
-#define KRM_CONVERT_NUMBERS_H_
+#ifndef KRM_CONVERT_INTERNAL_NUMBERS_H_
+#define KRM_CONVERT_INTERNAL_NUMBERS_H_
 
 #include <array>
 #include <cstddef>
@@ -100,4 +100,4 @@ void AssignBytesAsText(CKRMString& result, const unsigned char* data, krm_ulong 
 
 }  // namespace krm::convert
 
-#endif  // KRM_CONVERT_NUMBERS_H_
+#endif  // KRM_CONVERT_INTERNAL_NUMBERS_H_

@@ -1,4 +1,4 @@
-#include "krm/convert/user_locale.h"
+#include "krm/convert/internal/user_locale.h"
 
 #include <array>
 #include <new>

@@ -1,6 +1,6 @@
 // How an operation of the tree reports. Part of the tree's inside.
-#ifndef KRM_TREE_OPERATION_H_
-#define KRM_TREE_OPERATION_H_
+#ifndef KRM_TREE_INTERNAL_OPERATION_H_
+#define KRM_TREE_INTERNAL_OPERATION_H_
 
 #include <optional>
 
@@ -34,4 +34,4 @@ private:
 
 }  // namespace krm::tree
 
-#endif  // KRM_TREE_OPERATION_H_
+#endif  // KRM_TREE_INTERNAL_OPERATION_H_

@@ -1,4 +1,4 @@
-#include "krm/convert/numbers.h"
+#include "krm/convert/internal/numbers.h"
 
 #include <algorithm>
 #include <bit>

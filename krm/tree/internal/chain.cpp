@@ -1,4 +1,4 @@
-#include "krm/tree/chain.h"
+#include "krm/tree/internal/chain.h"
 
 #include <array>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "krm/platform/format.h"
+#include "krm/platform/internal/format.h"
 
 #include <algorithm>
 #include <array>

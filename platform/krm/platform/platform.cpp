@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string>
 
-#include "krm/platform/format.h"
+#include "krm/platform/internal/format.h"
 
 template class CKRMList<unsigned char>;
 template class CKRMList<unsigned short>;

@@ -1,8 +1,14 @@
 // Integer types and export marks that every header of the library shares.
 //
-// Includes nothing of the library; everything else may include it.
-#ifndef KRM_PLATFORM_CONFIG_H_
-#define KRM_PLATFORM_CONFIG_H_
+// krm/core/ is the ground floor, the types, CKRMList and CKRMBinary: it includes nothing of the other folders.
+#ifndef KRM_CORE_TYPES_H_
+#define KRM_CORE_TYPES_H_
+
+// The include that can't be found ends the compilation here: what would follow are hundreds of errors without a meaning.
+#if defined(_MSVC_LANG) ? _MSVC_LANG < 202002L : __cplusplus < 202002L
+#error "krm needs C++20: compile with -std=c++20, or /std:c++20"
+#include <krm_needs_C++20>
+#endif
 
 #include <climits>
 #include <cstdint>
@@ -67,4 +73,4 @@ static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 
 #define KRM_PRINTF_LIKE(formatPosition, firstArgument)
 #endif
 
-#endif  // KRM_PLATFORM_CONFIG_H_
+#endif  // KRM_CORE_TYPES_H_

@@ -1,6 +1,6 @@
 // Texts of a few characters and numbers, put together without a format to interpret. Part of the library's inside.
-#ifndef KRM_CONVERT_SHORT_TEXT_H_
-#define KRM_CONVERT_SHORT_TEXT_H_
+#ifndef KRM_CONVERT_INTERNAL_SHORT_TEXT_H_
+#define KRM_CONVERT_INTERNAL_SHORT_TEXT_H_
 
 #include <array>
 #include <cstddef>
@@ -53,4 +53,4 @@ private:
 
 }  // namespace krm::convert
 
-#endif  // KRM_CONVERT_SHORT_TEXT_H_
+#endif  // KRM_CONVERT_INTERNAL_SHORT_TEXT_H_
