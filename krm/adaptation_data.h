@@ -16,15 +16,32 @@
 #include "krm/convert/converter.h"
 #include "krm/convert/specialised.h"
 
-// Diagnostic commands and their records, by function area.
+// Diagnostic commands by function area, and the records that several areas share.
 #include "krm/messages/diag/active_test.h"
+#include "krm/messages/diag/can_bus.h"
+#include "krm/messages/diag/cancel_codes.h"
 #include "krm/messages/diag/customize.h"
+#include "krm/messages/diag/data_item.h"
 #include "krm/messages/diag/data_monitor.h"
 #include "krm/messages/diag/display.h"
-#include "krm/messages/diag/oscilloscope_memory.h"
+#include "krm/messages/diag/event_records.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/messages/diag/freeze_frames.h"
+#include "krm/messages/diag/j2534_config.h"
+#include "krm/messages/diag/memory.h"
+#include "krm/messages/diag/on_board_monitor.h"
+#include "krm/messages/diag/oscilloscope.h"
+#include "krm/messages/diag/oscilloscope_channel.h"
+#include "krm/messages/diag/special_operation.h"
+#include "krm/messages/diag/translation.h"
+#include "krm/messages/diag/trouble_code.h"
 #include "krm/messages/diag/trouble_codes.h"
+#include "krm/messages/diag/utilities.h"
 #include "krm/messages/diag/vehicle.h"
 #include "krm/messages/diag/words.h"
+
+// Every message by class, or made by type and ID.
+#include "krm/messages/all_messages.h"
 
 // The auxiliary families.
 #include "krm/messages/auxiliary/stored_data.h"

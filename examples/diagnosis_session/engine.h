@@ -19,6 +19,8 @@
 #include "exchange.h"
 #include "item_table.h"
 #include "krm/messages/diag/data_monitor.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/messages/diag/freeze_frames.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/vehicle.h"
 

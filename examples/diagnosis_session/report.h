@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "krm/messages/diag/freeze_frame_item.h"
 #include "krm/messages/diag/trouble_codes.h"
 
 namespace diagnosis_session {

@@ -2,9 +2,11 @@
 #ifndef KRM_FRAMEWORK_COMMANDS_H_
 #define KRM_FRAMEWORK_COMMANDS_H_
 
+#include <cstddef>
 #include <string_view>
 
 #include "krm/core/types.h"
+#include "krm/framework/literal.h"
 
 namespace krm {
 
@@ -107,8 +109,9 @@ inline constexpr Command kCommands[] = {
     {CommandFamily::WordsTable, 2, "GetTranslationString"},
 };
 
-// Called for a command that the table doesn't have. Not constexpr, so that the compiler stops there.
+// Called for what doesn't fit the table. Not constexpr, so that the compiler stops there and shows the name.
 void NoSuchCommandInTheTable();
+void TheTableHasThisCommandAlready();
 
 /// The ID of the command `name` of `family`; an unknown name doesn't compile.
 consteval krm_ulong CommandId(CommandFamily family, std::string_view name) {
@@ -120,6 +123,32 @@ consteval krm_ulong CommandId(CommandFamily family, std::string_view name) {
     NoSuchCommandInTheTable();
     return 0;
 }
+
+/// The command of a message's class: one of the table by its name alone, `"GetDTC"`, or a user's own by name and ID,
+/// `krm::CommandName("ReadPaintCode", 900)`.
+template <std::size_t Size>
+struct CommandName {
+    consteval CommandName(const char (&text)[Size]) : name(text) {}  // NOLINT: a literal converts by itself
+    consteval CommandName(const char (&text)[Size], krm_ulong ownId) : name(text), own(true), id(ownId) {}
+
+    /// The command's ID in `family`. A name without an ID that is not in the table doesn't compile, nor does an ID of
+    /// one's own, or a name, that the table has.
+    consteval krm_ulong IdIn(CommandFamily family) const {
+        if (!own) {
+            return CommandId(family, name.View());
+        }
+        for (const Command& command : kCommands) {
+            if (command.family == family && (command.id == id || command.name == name.View())) {
+                TheTableHasThisCommandAlready();
+            }
+        }
+        return id;
+    }
+
+    Literal<Size> name;
+    bool own = false;
+    krm_ulong id = 0;  ///< of a user's own command
+};
 
 /// The command with this type and ID, or null where there is none.
 constexpr const Command* FindCommand(krm_ulong commandType, krm_ulong commandId) {

@@ -1,5 +1,5 @@
-// How a record or message writes its fields into the operation log. For the sources of records and messages only; no
-// public header needs it.
+// How a record or message writes its fields into the operation log. For the sources of records and messages, a user's own
+// among them; no header needs it.
 //
 //     line("%s.m_ulEcuId=%d", m_ulEcuId);            // a number, a text or a double: one line
 //     line("%s.m_cTripTime", m_cTripTime);           // an embedded record: its own lines under this prefix
@@ -14,12 +14,14 @@
 #define KRM_FRAMEWORK_DUMP_H_
 
 #include <array>
+#include <cstdarg>
 #include <cstddef>
 #include <string_view>
 #include <type_traits>
 #include <utility>
 
 #include "krm/core/list.h"
+#include "krm/framework/message.h"
 #include "krm/framework/record.h"
 #include "krm/platform/platform.h"
 
@@ -238,8 +240,8 @@ private:
     static void CallLog(CKRMCBaseAdaptDataStructure& record, const char* format, Values... values) {
         record.ER_WriteOperationLogFormatStructure(format, values...);
     }
-    template <class Message, class... Values>
-    static void CallLog(Message& message, const char* format, Values... values) {
+    template <class... Values>
+    static void CallLog(LoggedMessage& message, const char* format, Values... values) {
         message.ER_WriteOperationLogFormat(format, values...);
     }
 
@@ -247,14 +249,6 @@ private:
     const char* m_prefix;
     std::array<int, Depth> m_indices;
 };
-
-/// Starts the dump of a message: lets `Base`, its request or answer base, write its lines and returns the writer of the
-/// message's own, under `logName`, the full name of the dumping function.
-template <class Message, class Base = typename Message::DirectionBase>
-DumpLines<typename Base::FamilyBase, 0> BeginDump(Message& message, const char* logName) {
-    message.Base::ErrWriteOperationLog();
-    return DumpLines<typename Base::FamilyBase, 0>(message, logName);
-}
 
 /// Formats one line and hands it to the operation log; the one place where that happens.
 krm_long WriteOperationLogLine(const char* format, std::va_list arguments);

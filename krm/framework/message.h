@@ -3,39 +3,104 @@
 #ifndef KRM_FRAMEWORK_MESSAGE_H_
 #define KRM_FRAMEWORK_MESSAGE_H_
 
+#include <type_traits>
+
+#include "krm/core/types.h"
 #include "krm/framework/commands.h"
+#include "krm/framework/literal.h"
 #include "krm/platform/platform.h"
+
+namespace krm {
+
+class LoggedMessage;
+template <class Owner, int Depth>
+class DumpLines;
+/// What a message's Dump writes its lines with; see krm/framework/dump.h.
+using MessageLines = DumpLines<LoggedMessage, 0>;
+
+/// Whether a message asks or answers. Type and ID don't tell: a request and its answer have the same.
+enum class Direction { Send, Receive };
+
+/// What the families with a dump add to the imported base: two virtual operations, behind destructor and Clear. The viewer
+/// family has neither.
+class KRM_API LoggedMessage : public CKRMBaseAdaptationData {
+public:
+    /// Writes the message to the operation log, a line per field. Returns 0, whatever the log writer returned.
+    virtual krm_long ErrWriteOperationLog() = 0;
+    /// Formats one line as printf does, writes it to the operation log and returns the log writer's result.
+    virtual krm_long ER_WriteOperationLogFormat(const char* format, ...) KRM_PRINTF_LIKE(2, 3);
+
+protected:
+    /// Writes command type and ID under `logName`.
+    void DumpTypeAndId(const char* logName);
+    /// Calls `dump` with this message and lines under `logName`, which must outlive the call.
+    void DumpUnder(const char* logName, void (*dump)(LoggedMessage& message, const MessageLines& line));
+};
+
+/// What a family's base does when it is constructed, before its command type is set.
+enum class Start { Cleared, AsImported };
+
+/// The regular operations of a family's base, written once. `word` stands in the names of all its classes. Adds no data
+/// member and no virtual operation.
+template <CommandFamily family, Literal word, class Imported, Start start = Start::Cleared>
+class FamilyOf : public Imported {
+public:
+    static constexpr CommandFamily kFamily = family;
+    static constexpr Literal kFamilyWord = word;
+
+    /// The family's type, and what the imported base has for an ID when it is new.
+    FamilyOf() {
+        if constexpr (start == Start::Cleared) {
+            Imported::Clear();
+        }
+        SetFamily();
+    }
+    /// The same with the ID `commandId`.
+    explicit FamilyOf(krm_ulong commandId) : FamilyOf() { this->SetCommandID(commandId); }
+
+    /// Resets the imported base and sets the family's type; an ID of its own has only a message.
+    void Clear() override {
+        Imported::Clear();
+        SetFamily();
+    }
+
+private:
+    void SetFamily() { this->SetCommandType(static_cast<krm_ulong>(family)); }
+};
+
+/// The same for a family with a dump: its base writes type and ID.
+template <CommandFamily family, Literal word, Start start = Start::Cleared>
+class LoggedFamilyOf : public FamilyOf<family, word, LoggedMessage, start> {
+public:
+    using FamilyOf<family, word, LoggedMessage, start>::FamilyOf;
+
+    krm_long ErrWriteOperationLog() override {
+        static constexpr auto kLogName = Joined<"CKRMCBase", word, "AdaptData::ErrWriteOperationLog">();
+        this->DumpTypeAndId(kLogName.Text());
+        return 0;
+    }
+};
+
+}  // namespace krm
 
 // Each base can be constructed from nothing, or from a command ID, which it then has. Its Clear resets the imported base,
 // sets the family's command type and resets the own member; an ID of its own has only a message.
 //
 // The order of the virtual operations is part of the interface: destructor, Clear, ErrWriteOperationLog,
 // ER_WriteOperationLogFormat. The viewer family has the first two only.
-//
-// ErrWriteOperationLog writes the object to the operation log, a line per field, and returns 0 whatever the log writer
-// returned. ER_WriteOperationLogFormat formats one line as printf does, writes it and returns the log writer's result.
 
 /// Base of the diagnostic commands messages.
-class KRM_API CKRMCBaseCmdAdaptData : public CKRMBaseAdaptationData {
+class KRM_API CKRMCBaseCmdAdaptData : public krm::LoggedFamilyOf<krm::CommandFamily::Diagnostic, "Cmd"> {
 public:
-    using FamilyBase = CKRMCBaseCmdAdaptData;
-    static constexpr krm::CommandFamily kFamily = krm::CommandFamily::Diagnostic;
-
-    CKRMCBaseCmdAdaptData();
-    explicit CKRMCBaseCmdAdaptData(krm_ulong commandId);
-
-    void Clear() override;
-    virtual krm_long ErrWriteOperationLog();
-    virtual krm_long ER_WriteOperationLogFormat(const char* format, ...) KRM_PRINTF_LIKE(2, 3);
+    using LoggedFamilyOf::LoggedFamilyOf;
 };
 
 /// Base of that family's requests.
 class KRM_API CKRMCBaseCmdAdaptDataSnd : public CKRMCBaseCmdAdaptData {
 public:
     using DirectionBase = CKRMCBaseCmdAdaptDataSnd;
-
-    CKRMCBaseCmdAdaptDataSnd();
-    explicit CKRMCBaseCmdAdaptDataSnd(krm_ulong commandId);
+    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using CKRMCBaseCmdAdaptData::CKRMCBaseCmdAdaptData;
 
     void Clear() override;
     krm_long ErrWriteOperationLog() override;
@@ -48,9 +113,8 @@ public:
 class KRM_API CKRMCBaseCmdAdaptDataRcv : public CKRMCBaseCmdAdaptData {
 public:
     using DirectionBase = CKRMCBaseCmdAdaptDataRcv;
-
-    CKRMCBaseCmdAdaptDataRcv();
-    explicit CKRMCBaseCmdAdaptDataRcv(krm_ulong commandId);
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using CKRMCBaseCmdAdaptData::CKRMCBaseCmdAdaptData;
 
     void Clear() override;
     krm_long ErrWriteOperationLog() override;
@@ -60,24 +124,17 @@ public:
 };
 
 /// Base of the viewer data control messages.
-class KRM_API CKRMCBaseVdcAdaptData : public CKRMBaseAdaptationData {
+class KRM_API CKRMCBaseVdcAdaptData : public krm::FamilyOf<krm::CommandFamily::Viewer, "Vdc", CKRMBaseAdaptationData> {
 public:
-    using FamilyBase = CKRMCBaseVdcAdaptData;
-    static constexpr krm::CommandFamily kFamily = krm::CommandFamily::Viewer;
-
-    CKRMCBaseVdcAdaptData();
-    explicit CKRMCBaseVdcAdaptData(krm_ulong commandId);
-
-    void Clear() override;
+    using FamilyOf::FamilyOf;
 };
 
 /// Base of that family's requests.
 class KRM_API CKRMCBaseVdcAdaptDataSnd : public CKRMCBaseVdcAdaptData {
 public:
     using DirectionBase = CKRMCBaseVdcAdaptDataSnd;
-
-    CKRMCBaseVdcAdaptDataSnd();
-    explicit CKRMCBaseVdcAdaptDataSnd(krm_ulong commandId);
+    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using CKRMCBaseVdcAdaptData::CKRMCBaseVdcAdaptData;
 
     void Clear() override;
 
@@ -89,34 +146,22 @@ public:
 class KRM_API CKRMCBaseVdcAdaptDataRcv : public CKRMCBaseVdcAdaptData {
 public:
     using DirectionBase = CKRMCBaseVdcAdaptDataRcv;
-
-    CKRMCBaseVdcAdaptDataRcv();
-    explicit CKRMCBaseVdcAdaptDataRcv(krm_ulong commandId);
-
-    void Clear() override;
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using CKRMCBaseVdcAdaptData::CKRMCBaseVdcAdaptData;
 };
 
 /// Base of the stored-data import messages.
-class KRM_API CKRMCBaseDsdiAdaptData : public CKRMBaseAdaptationData {
+class KRM_API CKRMCBaseDsdiAdaptData : public krm::LoggedFamilyOf<krm::CommandFamily::StoredDataImport, "Dsdi"> {
 public:
-    using FamilyBase = CKRMCBaseDsdiAdaptData;
-    static constexpr krm::CommandFamily kFamily = krm::CommandFamily::StoredDataImport;
-
-    CKRMCBaseDsdiAdaptData();
-    explicit CKRMCBaseDsdiAdaptData(krm_ulong commandId);
-
-    void Clear() override;
-    virtual krm_long ErrWriteOperationLog();
-    virtual krm_long ER_WriteOperationLogFormat(const char* format, ...) KRM_PRINTF_LIKE(2, 3);
+    using LoggedFamilyOf::LoggedFamilyOf;
 };
 
 /// Base of that family's requests.
 class KRM_API CKRMCBaseDsdiAdaptDataSnd : public CKRMCBaseDsdiAdaptData {
 public:
     using DirectionBase = CKRMCBaseDsdiAdaptDataSnd;
-
-    CKRMCBaseDsdiAdaptDataSnd();
-    explicit CKRMCBaseDsdiAdaptDataSnd(krm_ulong commandId);
+    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using CKRMCBaseDsdiAdaptData::CKRMCBaseDsdiAdaptData;
 
     void Clear() override;
     krm_long ErrWriteOperationLog() override;
@@ -129,111 +174,106 @@ public:
 class KRM_API CKRMCBaseDsdiAdaptDataRcv : public CKRMCBaseDsdiAdaptData {
 public:
     using DirectionBase = CKRMCBaseDsdiAdaptDataRcv;
-
-    CKRMCBaseDsdiAdaptDataRcv();
-    explicit CKRMCBaseDsdiAdaptDataRcv(krm_ulong commandId);
-
-    void Clear() override;
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using CKRMCBaseDsdiAdaptData::CKRMCBaseDsdiAdaptData;
 };
 
 /// Base of the unit conversion messages.
-class KRM_API CKRMCBaseUccAdaptData : public CKRMBaseAdaptationData {
+class KRM_API CKRMCBaseUccAdaptData : public krm::LoggedFamilyOf<krm::CommandFamily::UnitConversion, "Ucc"> {
 public:
-    using FamilyBase = CKRMCBaseUccAdaptData;
-    static constexpr krm::CommandFamily kFamily = krm::CommandFamily::UnitConversion;
-
-    CKRMCBaseUccAdaptData();
-    explicit CKRMCBaseUccAdaptData(krm_ulong commandId);
-
-    void Clear() override;
-    virtual krm_long ErrWriteOperationLog();
-    virtual krm_long ER_WriteOperationLogFormat(const char* format, ...) KRM_PRINTF_LIKE(2, 3);
+    using LoggedFamilyOf::LoggedFamilyOf;
 };
 
 /// Base of that family's requests.
 class KRM_API CKRMCBaseUccAdaptDataSnd : public CKRMCBaseUccAdaptData {
 public:
     using DirectionBase = CKRMCBaseUccAdaptDataSnd;
-
-    CKRMCBaseUccAdaptDataSnd();
-    explicit CKRMCBaseUccAdaptDataSnd(krm_ulong commandId);
-
-    void Clear() override;
+    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using CKRMCBaseUccAdaptData::CKRMCBaseUccAdaptData;
 };
 
 /// Base of that family's answers.
 class KRM_API CKRMCBaseUccAdaptDataRcv : public CKRMCBaseUccAdaptData {
 public:
     using DirectionBase = CKRMCBaseUccAdaptDataRcv;
-
-    CKRMCBaseUccAdaptDataRcv();
-    explicit CKRMCBaseUccAdaptDataRcv(krm_ulong commandId);
-
-    void Clear() override;
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using CKRMCBaseUccAdaptData::CKRMCBaseUccAdaptData;
 };
 
-/// Base of the words table messages.
-class KRM_API CKRMCBaseDwtAdaptData : public CKRMBaseAdaptationData {
+/// Base of the words table messages. It alone starts without a Clear: with the imported base's own state, and the type.
+class KRM_API CKRMCBaseDwtAdaptData
+    : public krm::LoggedFamilyOf<krm::CommandFamily::WordsTable, "Dwt", krm::Start::AsImported> {
 public:
-    using FamilyBase = CKRMCBaseDwtAdaptData;
-    static constexpr krm::CommandFamily kFamily = krm::CommandFamily::WordsTable;
-
-    CKRMCBaseDwtAdaptData();
-    explicit CKRMCBaseDwtAdaptData(krm_ulong commandId);
-
-    void Clear() override;
-    virtual krm_long ErrWriteOperationLog();
-    virtual krm_long ER_WriteOperationLogFormat(const char* format, ...) KRM_PRINTF_LIKE(2, 3);
+    using LoggedFamilyOf::LoggedFamilyOf;
 };
 
 /// Base of that family's requests.
 class KRM_API CKRMCBaseDwtAdaptDataSnd : public CKRMCBaseDwtAdaptData {
 public:
     using DirectionBase = CKRMCBaseDwtAdaptDataSnd;
-
-    CKRMCBaseDwtAdaptDataSnd();
-    explicit CKRMCBaseDwtAdaptDataSnd(krm_ulong commandId);
-
-    void Clear() override;
+    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using CKRMCBaseDwtAdaptData::CKRMCBaseDwtAdaptData;
 };
 
 /// Base of that family's answers.
 class KRM_API CKRMCBaseDwtAdaptDataRcv : public CKRMCBaseDwtAdaptData {
 public:
     using DirectionBase = CKRMCBaseDwtAdaptDataRcv;
-
-    CKRMCBaseDwtAdaptDataRcv();
-    explicit CKRMCBaseDwtAdaptDataRcv(krm_ulong commandId);
-
-    void Clear() override;
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using CKRMCBaseDwtAdaptData::CKRMCBaseDwtAdaptData;
 };
 
-/// The regular operations of a message, written once: a message named `Message` with the request or answer base
-/// `Direction` and the ID `id` is
+namespace krm {
+
+/// The dump of a message of `Base`'s family: its bases' lines, then its own, if it has a Dump. For MessageOf.
+template <class Message, class Base, Literal name>
+class DumpOf : public Base {
+public:
+    using Base::Base;
+
+    krm_long ErrWriteOperationLog() override {
+        Base::ErrWriteOperationLog();
+        if constexpr (requires(Message & message, const MessageLines& line) { message.Dump(line); }) {
+            static constexpr auto kLogName = Joined < "CKRMC", name, Base::kFamilyWord, "AdaptData",
+                                  Base::kDirection == Direction::Send ? Literal("Snd") : Literal("Rcv"),
+                                  "::ErrWriteOperationLog" > ();
+            this->DumpUnder(kLogName.Text(), [](LoggedMessage& message, const MessageLines& line) {
+                static_cast<Message&>(message).Dump(line);
+            });
+        }
+        return 0;
+    }
+};
+
+/// The regular operations of a message, written once. A request of the command GetDTC is
 ///
-///     class X : public MessageOf<X, CKRMCBaseCmdAdaptDataSnd, krm::CommandId(krm::CommandFamily::Diagnostic, "...")>
+///     class X : public krm::MessageOf<X, CKRMCBaseCmdAdaptDataSnd, "GetDTC">
 ///
-/// and adds its fields with their defaults and its log lines. Adds no data member and no virtual operation.
-template <class Message, class Direction, krm_ulong id>
-class MessageOf : public Direction {
+/// X adds its fields with their defaults and, where it has some to write into the log, `void Dump(const
+/// krm::MessageLines& line)`. Its log lines carry the class name that command, family and direction make.
+///
+/// A command that krm::kCommands doesn't have brings its ID: `krm::CommandName("ReadPaintCode", 900)`.
+///
+/// Adds no data member and no virtual operation.
+template <class Message, class Base, CommandName command>
+class MessageOf
+    : public std::conditional_t<std::is_base_of_v<LoggedMessage, Base>, DumpOf<Message, Base, command.name>, Base> {
 public:
     /// The type and ID that every object of this class has after construction and after Clear.
-    static constexpr krm_ulong kCommandType = static_cast<krm_ulong>(Direction::kFamily);
-    static constexpr krm_ulong kCommandId = id;
+    static constexpr krm_ulong kCommandType = static_cast<krm_ulong>(Base::kFamily);
+    static constexpr krm_ulong kCommandId = command.IdIn(Base::kFamily);
 
     /// Restores type, ID, the base's member and every field to what the constructor sets.
     void Clear() override {
         static_cast<Message&>(*this) = Message();
         // Not all families' constructors reset the imported base, but every Clear does.
-        Direction::Clear();
-        this->SetCommandID(id);
+        Base::Clear();
+        this->SetCommandID(kCommandId);
     }
 
 protected:
-    MessageOf() : Direction(id) {}
+    MessageOf() { this->SetCommandID(kCommandId); }
 };
-
-namespace krm {
 
 /// `message` as the class that the caller expects, or null where it is null or carries another type or ID. Needs no
 /// run-time type information.

@@ -47,7 +47,9 @@ protected:
                          void (*dump)(CKRMCBaseAdaptDataStructure& record, const krm::RecordLines& line));
 };
 
-/// The regular operations of a record, written once: `class X : public RecordOf<X>`. X adds its fields with their
+namespace krm {
+
+/// The regular operations of a record, written once: `class X : public krm::RecordOf<X>`. X adds its fields with their
 /// defaults and `void Dump(const krm::RecordLines& line)`, which writes its log lines in order. It has no copy operations of
 /// its own: lists count on it that a copy is the same as a new record assigned to.
 ///
@@ -60,7 +62,7 @@ public:
     krm_long ErrWriteOperationLogStructure(const char* format, ...) override KRM_PRINTF_LIKE(2, 3) {
         std::va_list arguments;
         va_start(arguments, format);
-        DumpUnderPrefix(format, arguments, [](CKRMCBaseAdaptDataStructure& record, const krm::RecordLines& line) {
+        DumpUnderPrefix(format, arguments, [](CKRMCBaseAdaptDataStructure& record, const RecordLines& line) {
             static_cast<Record&>(record).Dump(line);
         });
         va_end(arguments);
@@ -70,6 +72,8 @@ public:
 
 template <class Record>
 requires std::is_base_of_v<RecordOf<Record>, Record>
-inline constexpr bool krm::kCopiedInOneStep<Record> = true;
+inline constexpr bool kCopiedInOneStep<Record> = true;
+
+}  // namespace krm
 
 #endif  // KRM_FRAMEWORK_RECORD_H_

@@ -11,7 +11,9 @@
 
 #include "krm/framework/dump.h"
 #include "krm/framework/record.h"
+#include "krm/messages/auxiliary/unit_conversion.h"
 #include "krm/messages/diag/display.h"
+#include "krm/messages/diag/trouble_codes.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/slot.h"
 
@@ -268,50 +270,39 @@ TEST(MessageBaseTest, CommandTypeAndIdAreLoggedAsSignedNumbers) {
 
 // Messages of this test's own.
 
-class Request
-    : public MessageOf<Request, CKRMCBaseCmdAdaptDataSnd, krm::CommandId(krm::CommandFamily::Diagnostic, "GetDTC")> {
+class Request : public krm::MessageOf<Request, CKRMCBaseCmdAdaptDataSnd, "GetDTC"> {
 public:
-    krm_long ErrWriteOperationLog() override {
-        const auto line = krm::BeginDump(*this, "Request::ErrWriteOperationLog");
+    void Dump(const krm::MessageLines& line) {
         line("[%s] m_uchPhaseType=%d", m_uchPhaseType);
         line("[%s] m_ulIdList[%d]=%d", m_ulIdList);
-        return 0;
     }
 
     unsigned char m_uchPhaseType = 3;  // a default that isn't 0
     CKRMList<krm_ulong> m_ulIdList;
 };
 
-class Answer
-    : public MessageOf<Answer, CKRMCBaseCmdAdaptDataRcv, krm::CommandId(krm::CommandFamily::Diagnostic, "GetDTC")> {
+class Answer : public krm::MessageOf<Answer, CKRMCBaseCmdAdaptDataRcv, "GetDTC"> {
 public:
-    krm_long ErrWriteOperationLog() override {
-        const auto line = krm::BeginDump(*this, "Answer::ErrWriteOperationLog");
+    void Dump(const krm::MessageLines& line) {
         line("[%s] Data[%d]", Data);
         line("[%s] m_bDTCType=%d", m_bDTCType);
-        return 0;
     }
 
     CKRMList<CKRMCCommandDataLayout> Data;
     bool m_bDTCType = false;
 };
 
-class ViewerRequest : public MessageOf<ViewerRequest, CKRMCBaseVdcAdaptDataSnd,
-                                       krm::CommandId(krm::CommandFamily::Viewer, "GetHelpInfo")> {};
+class ViewerRequest : public krm::MessageOf<ViewerRequest, CKRMCBaseVdcAdaptDataSnd, "GetHelpInfo"> {};
 
-class ImportRequest : public MessageOf<ImportRequest, CKRMCBaseDsdiAdaptDataSnd, 2> {};
+class ImportRequest : public krm::MessageOf<ImportRequest, CKRMCBaseDsdiAdaptDataSnd, "GetImportStoredData"> {};
 
-class UnitAnswer : public MessageOf<UnitAnswer, CKRMCBaseUccAdaptDataRcv, 5> {
+class UnitAnswer : public krm::MessageOf<UnitAnswer, CKRMCBaseUccAdaptDataRcv, "GetUnitSettingGroupParamList"> {
 public:
-    krm_long ErrWriteOperationLog() override {
-        const auto line = krm::BeginDump(*this, "UnitAnswer::ErrWriteOperationLog");
-        line("[%s] m_strUnit=%s", m_strUnit);
-        return 0;
-    }
+    void Dump(const krm::MessageLines& line) { line("[%s] m_strUnit=%s", m_strUnit); }
     CKRMString m_strUnit;
 };
 
-class WordsAnswer : public MessageOf<WordsAnswer, CKRMCBaseDwtAdaptDataRcv, 2> {};
+class WordsAnswer : public krm::MessageOf<WordsAnswer, CKRMCBaseDwtAdaptDataRcv, "GetTranslationString"> {};
 
 template <class Message>
 void ExpectTypeAndIdStay(krm_ulong type, krm_ulong id) {
@@ -398,12 +389,13 @@ TEST(MessageTest, ARequestWritesFamilyThenDirectionThenItsOwn) {
     request.m_ulEcuId = 12;
     request.m_ulIdList.AddTail(100);
     request.m_ulIdList.AddTail(0xFFFFFFFFU);
-    EXPECT_THAT(MessageLines(request), ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
-                                                   "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
-                                                   "[CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=12",
-                                                   "[Request::ErrWriteOperationLog] m_uchPhaseType=3",
-                                                   "[Request::ErrWriteOperationLog] m_ulIdList[0]=100",
-                                                   "[Request::ErrWriteOperationLog] m_ulIdList[1]=-1"));
+    EXPECT_THAT(MessageLines(request),
+                ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
+                            "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
+                            "[CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=12",
+                            "[CKRMCGetDTCCmdAdaptDataSnd::ErrWriteOperationLog] m_uchPhaseType=3",
+                            "[CKRMCGetDTCCmdAdaptDataSnd::ErrWriteOperationLog] m_ulIdList[0]=100",
+                            "[CKRMCGetDTCCmdAdaptDataSnd::ErrWriteOperationLog] m_ulIdList[1]=-1"));
 }
 
 TEST(MessageTest, AnAnswerWritesItsRecordsUnderItsLogName) {
@@ -415,22 +407,23 @@ TEST(MessageTest, AnAnswerWritesItsRecordsUnderItsLogName) {
     answer.Data.AddTail(layout);
     layout.m_ulBitMask = 0xFF;
     answer.Data.AddTail(layout);
-    EXPECT_THAT(MessageLines(answer), ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
-                                                  "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
-                                                  "[CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=1",
-                                                  "[Answer::ErrWriteOperationLog] Data[0].m_ulPidNo=0xC",
-                                                  "[Answer::ErrWriteOperationLog] Data[0].m_ulDataLen=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[0].m_uchEndian=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[0].m_ulByteNum=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[0].m_ulBytePos=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[0].m_ulBitMask=0x00000000",
-                                                  "[Answer::ErrWriteOperationLog] Data[1].m_ulPidNo=0xC",
-                                                  "[Answer::ErrWriteOperationLog] Data[1].m_ulDataLen=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[1].m_uchEndian=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[1].m_ulByteNum=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[1].m_ulBytePos=0",
-                                                  "[Answer::ErrWriteOperationLog] Data[1].m_ulBitMask=0x000000FF",
-                                                  "[Answer::ErrWriteOperationLog] m_bDTCType=1"));
+    EXPECT_THAT(MessageLines(answer),
+                ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
+                            "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
+                            "[CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=1",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulPidNo=0xC",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulDataLen=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchEndian=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulByteNum=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulBytePos=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulBitMask=0x00000000",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulPidNo=0xC",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulDataLen=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchEndian=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulByteNum=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulBytePos=0",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulBitMask=0x000000FF",
+                            "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] m_bDTCType=1"));
 }
 
 TEST(MessageTest, AnEmptyListWritesOnlyTheScalarLines) {
@@ -438,15 +431,17 @@ TEST(MessageTest, AnEmptyListWritesOnlyTheScalarLines) {
     EXPECT_THAT(MessageLines(answer), ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
                                                   "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
                                                   "[CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0",
-                                                  "[Answer::ErrWriteOperationLog] m_bDTCType=0"));
+                                                  "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] m_bDTCType=0"));
 }
 
 TEST(MessageTest, FamiliesWithoutAMemberWriteTwoLinesBeforeTheirOwn) {
     UnitAnswer unit;
     unit.m_strUnit = "100%d";
-    EXPECT_THAT(MessageLines(unit), ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                                                "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=5",
-                                                "[UnitAnswer::ErrWriteOperationLog] m_strUnit=100%d"));
+    EXPECT_THAT(
+        MessageLines(unit),
+        ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
+                    "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=5",
+                    "[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] m_strUnit=100%d"));
     WordsAnswer words;
     EXPECT_THAT(MessageLines(words), ElementsAre("[CKRMCBaseDwtAdaptData::ErrWriteOperationLog] m_dwCommandType=14",
                                                  "[CKRMCBaseDwtAdaptData::ErrWriteOperationLog] m_dwCommandID=2"));
@@ -503,10 +498,9 @@ struct Sheet {
     CKRMList<Curve> m_cCurves;
 };
 
-class Drawing : public MessageOf<Drawing, CKRMCBaseUccAdaptDataSnd, 1> {
+class Drawing : public krm::MessageOf<Drawing, CKRMCBaseUccAdaptDataSnd, krm::CommandName("Draw", 900)> {
 public:
-    krm_long ErrWriteOperationLog() override {
-        const auto line = krm::BeginDump(*this, "Drawing");
+    void Dump(const krm::MessageLines& line) {
         line.ForEach(Data, [](const auto& sheetLine, Sheet& sheet) {
             sheetLine("[%s] Data[%d].m_dScale=%lf", sheet.m_dScale);
             sheetLine.ForEach(sheet.m_cCurves, [](const auto& curveLine, Curve& curve) {
@@ -520,7 +514,6 @@ public:
             });
         });
         line("[%s] m_bDone=%d", m_bDone);
-        return 0;
     }
 
     CKRMList<Sheet> Data;
@@ -531,7 +524,7 @@ public:
 std::vector<std::string> OwnLines(Drawing& drawing) {
     std::vector<std::string> own;
     for (const std::string& line : MessageLines(drawing)) {
-        const std::string logName = "[Drawing] ";
+        const std::string logName = "[CKRMCDrawUccAdaptDataSnd::ErrWriteOperationLog] ";
         if (line.compare(0, logName.size(), logName) == 0 &&
             (line.find("Layout") == std::string::npos || line.find("m_ulPidNo") != std::string::npos)) {
             own.push_back(line.substr(logName.size()));
@@ -583,7 +576,7 @@ TEST(ForEachTest, OneIndexPerLevel) {
 
 TEST(ForEachTest, CountsPlainElementsAndWritesSeveralFieldsPerLine) {
     /// A record that writes the fields of its elements.
-    class Table : public RecordOf<Table> {
+    class Table : public krm::RecordOf<Table> {
     public:
         void Dump(const krm::RecordLines& line) {
             line.ForEach(m_cRows, [](const auto& rowLine, Curve& row) {

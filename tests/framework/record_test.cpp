@@ -13,6 +13,7 @@
 
 #include "krm/framework/dump.h"
 #include "krm/messages/diag/display.h"
+#include "krm/messages/diag/trouble_codes.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/slot.h"
 
@@ -23,7 +24,7 @@ using krm::test::RecordLinesOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class Leaf : public RecordOf<Leaf> {
+class Leaf : public krm::RecordOf<Leaf> {
 public:
     void Dump(const krm::RecordLines& line) {
         line("%s.m_ulId=%d", m_ulId);
@@ -34,7 +35,7 @@ public:
     CKRMString m_strName;
 };
 
-class Branch : public RecordOf<Branch> {
+class Branch : public krm::RecordOf<Branch> {
 public:
     void Dump(const krm::RecordLines& line) {
         line("[%s] m_uchSSRNo[%d]=%d", m_uchSSRNo);
@@ -49,7 +50,7 @@ public:
     bool m_bLast = false;
 };
 
-class Tree : public RecordOf<Tree> {
+class Tree : public krm::RecordOf<Tree> {
 public:
     void Dump(const krm::RecordLines& line) {
         line("%s.m_cBranch", m_cBranch);
@@ -61,7 +62,7 @@ public:
 };
 
 /// A field of every kind, each with the conversions that such fields have.
-class Kinds : public RecordOf<Kinds> {
+class Kinds : public krm::RecordOf<Kinds> {
 public:
     void Dump(const krm::RecordLines& line) {
         line("%s.m_b=%d", m_b);
@@ -326,7 +327,7 @@ TEST(RecordTest, ElementsOfAListOfNumbersAreLinesOfTheirHolder) {
 
 TEST(RecordTest, EmbeddedRecordsAreAskedVirtually) {
     /// Holds a record that notes its lines.
-    class Holder : public RecordOf<Holder> {
+    class Holder : public krm::RecordOf<Holder> {
     public:
         void Dump(const krm::RecordLines& line) {
             line("%s.m_cLeaf", m_cLeaf);
@@ -353,7 +354,7 @@ TEST(RecordTest, ADumpLeavesTheRecord) {
 
 TEST(RecordTest, TwoDumpsDontShareTheirPrefix) {
     /// Dumps another record between its own lines.
-    class Interrupted : public RecordOf<Interrupted> {
+    class Interrupted : public krm::RecordOf<Interrupted> {
     public:
         void Dump(const krm::RecordLines& line) {
             line("%s.m_ulFirst=%d", m_ulFirst);
@@ -390,7 +391,7 @@ TEST(RecordTest, TheLibrarysRecordsDumpAlikeAloneAndNested) {
 
 TEST(RecordTest, ATextWithoutValuesIsALineToo) {
     /// Writes a heading.
-    class Heading : public RecordOf<Heading> {
+    class Heading : public krm::RecordOf<Heading> {
     public:
         void Dump(const krm::RecordLines& line) { line("[%s] heading"); }
     };

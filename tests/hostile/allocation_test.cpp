@@ -7,6 +7,8 @@
 #include <string>
 
 #include "krm/messages/auxiliary/viewer.h"
+#include "krm/messages/diag/display.h"
+#include "krm/messages/diag/trouble_code.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/words.h"
 #include "krm/tree/element.h"

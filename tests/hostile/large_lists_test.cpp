@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "krm/messages/diag/translation.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/words.h"
 #include "tests/support/failing_allocation.h"

@@ -7,6 +7,8 @@
 
 #include "krm/core/binary.h"
 #include "krm/framework/message.h"
+#include "krm/messages/diag/display.h"
+#include "krm/messages/diag/translation.h"
 #include "krm/messages/diag/words.h"
 #include "krm/tree/element.h"
 #include "krm/tree/element_group.h"

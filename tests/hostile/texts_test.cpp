@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "krm/core/binary.h"
+#include "krm/messages/diag/display.h"
+#include "krm/messages/diag/translation.h"
 #include "krm/messages/diag/words.h"
 #include "krm/tree/element.h"
 #include "tests/support/converters.h"

@@ -36,7 +36,7 @@ TEST(SlotOrder, List) {
     EXPECT_EQ(1, SlotCountOf<CKRMList<CKRMCCommandDispData> >());
 }
 
-struct SmallRecord : RecordOf<SmallRecord> {
+struct SmallRecord : krm::RecordOf<SmallRecord> {
     void Dump(const krm::RecordLines&) {}
 };
 

@@ -3,10 +3,9 @@
 #define KRM_TESTS_MUST_NOT_COMPILE_FIXTURE_H_
 
 #include "krm/framework/dump.h"
-#include "krm/messages/diag/display.h"
 #include "krm/platform/platform.h"
 
-class Part : public RecordOf<Part> {
+class Part : public krm::RecordOf<Part> {
 public:
     void Dump(const krm::RecordLines& line) { line("%s.m_ulId=%d", m_ulId); }
 
@@ -14,7 +13,7 @@ public:
     CKRMList<unsigned char> m_uchRaw;
 };
 
-class Sample : public RecordOf<Sample> {
+class Sample : public krm::RecordOf<Sample> {
 public:
     void Dump(const krm::RecordLines& line);
 

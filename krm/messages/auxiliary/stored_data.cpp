@@ -23,10 +23,6 @@ void CKRMCStoredDataFFD::Clear() {
     m_cDiagDetail.Clear();
 }
 
-CKRMCGetImportFileInfoDsdiAdaptDataSnd::~CKRMCGetImportFileInfoDsdiAdaptDataSnd() = default;
-CKRMCGetImportFileInfoDsdiAdaptDataRcv::~CKRMCGetImportFileInfoDsdiAdaptDataRcv() = default;
-CKRMCGetImportStoredDataDsdiAdaptDataSnd::~CKRMCGetImportStoredDataDsdiAdaptDataSnd() = default;
-
 void CKRMCGetImportStoredDataDsdiAdaptDataRcv::Clear() {
     CKRMCBaseDsdiAdaptDataRcv::Clear();
     SetCommandID(kCommandId);

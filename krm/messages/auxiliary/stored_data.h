@@ -13,6 +13,7 @@
 #include "krm/core/list.h"
 #include "krm/framework/message.h"
 #include "krm/messages/diag/data_monitor.h"
+#include "krm/messages/diag/freeze_frames.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/vehicle.h"
 #include "krm/platform/platform.h"
@@ -150,8 +151,8 @@ extern template class CKRMList<CKRMCStoredDataImportFileData>;
 
 /// What the messages of this family share beyond MessageOf: they write nothing to the operation log, not even type and
 /// ID. Adds no data member and no virtual operation.
-template <class Message, class Direction, krm_ulong id>
-class StoredDataMessageOf : public MessageOf<Message, Direction, id> {
+template <class Message, class Base, krm::CommandName command>
+class StoredDataMessageOf : public krm::MessageOf<Message, Base, command> {
 public:
     /// Writes nothing; returns 0.
     krm_long ErrWriteOperationLog() override { return 0; }
@@ -160,10 +161,8 @@ public:
 /// Asks which files can be imported.
 class KRM_API CKRMCGetImportFileInfoDsdiAdaptDataSnd
     : public StoredDataMessageOf<CKRMCGetImportFileInfoDsdiAdaptDataSnd, CKRMCBaseDsdiAdaptDataSnd,
-                                 krm::CommandId(krm::CommandFamily::StoredDataImport, "GetImportFileInfo")> {
+                                 "GetImportFileInfo"> {
 public:
-    ~CKRMCGetImportFileInfoDsdiAdaptDataSnd() override;
-
     CKRMString m_strPath;        ///< where to look for files; its meaning is the engine's
     krm_ulong m_ulFileType = 0;  ///< kind of files; the codes are the engine's
 };
@@ -171,27 +170,23 @@ public:
 /// The files that can be imported.
 class KRM_API CKRMCGetImportFileInfoDsdiAdaptDataRcv
     : public StoredDataMessageOf<CKRMCGetImportFileInfoDsdiAdaptDataRcv, CKRMCBaseDsdiAdaptDataRcv,
-                                 krm::CommandId(krm::CommandFamily::StoredDataImport, "GetImportFileInfo")> {
+                                 "GetImportFileInfo"> {
 public:
-    ~CKRMCGetImportFileInfoDsdiAdaptDataRcv() override;
-
     CKRMList<CKRMCStoredDataImportFileInfo> Data;  ///< the files
 };
 
 /// Asks for the content of one file.
 class KRM_API CKRMCGetImportStoredDataDsdiAdaptDataSnd
     : public StoredDataMessageOf<CKRMCGetImportStoredDataDsdiAdaptDataSnd, CKRMCBaseDsdiAdaptDataSnd,
-                                 krm::CommandId(krm::CommandFamily::StoredDataImport, "GetImportStoredData")> {
+                                 "GetImportStoredData"> {
 public:
-    ~CKRMCGetImportStoredDataDsdiAdaptDataSnd() override;
-
     CKRMString m_strFileName;  ///< the file, as in CKRMCStoredDataImportFileInfo
 };
 
 /// The content of the file.
 class KRM_API CKRMCGetImportStoredDataDsdiAdaptDataRcv
     : public StoredDataMessageOf<CKRMCGetImportStoredDataDsdiAdaptDataRcv, CKRMCBaseDsdiAdaptDataRcv,
-                                 krm::CommandId(krm::CommandFamily::StoredDataImport, "GetImportStoredData")> {
+                                 "GetImportStoredData"> {
 public:
     /// Restores type and ID and keeps the file's content; `Data.Clear()` drops that.
     void Clear() override;

@@ -7,21 +7,14 @@ template class CKRMList<CKRMCUnitConvDataItemInfo>;
 template class CKRMList<CKRMCUnitConvDataSettingInfo>;
 template class CKRMList<CKRMCUnitConversionCreationData>;
 
-CKRMCCreateUnitConversionCommandUccAdaptDataRcv::~CKRMCCreateUnitConversionCommandUccAdaptDataRcv() = default;
-CKRMCGetUnitConversionInfoListUccAdaptDataSnd::~CKRMCGetUnitConversionInfoListUccAdaptDataSnd() = default;
-CKRMCGetUnitSettingGroupListUccAdaptDataSnd::~CKRMCGetUnitSettingGroupListUccAdaptDataSnd() = default;
-
-krm_long CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog");
+void CKRMCCreateUnitConversionCommandUccAdaptDataSnd::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_ushIdType=%d", item.m_ushIdType);
         itemLine("[%s] Data[%d].m_strValue=%s", item.m_strValue);
     });
-    return 0;
 }
 
-krm_long CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetUnitConversionInfoListUccAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_uchItemId=%d", item.m_uchItemId);
         itemLine("[%s] Data[%d].m_strItemName=%s", item.m_strItemName);
@@ -30,45 +23,35 @@ krm_long CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog() {
             unitLine("[%s] Data[%d].m_cUnitList[%d].m_strUnitName=%s", unit.m_strUnitName);
         });
     });
-    return 0;
 }
 
-krm_long CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog");
+void CKRMCSetUnitConversionInfoUccAdaptDataSnd::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_uchItemId=%d", item.m_uchItemId);
         itemLine("[%s] Data[%d].m_uchUnitId=%d", item.m_uchUnitId);
     });
-    return 0;
 }
 
-krm_long CKRMCSetUnitConversionInfoUccAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCSetUnitConversionInfoUccAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCSetUnitConversionInfoUccAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_ushGenreId=%d", item.m_ushGenreId);
         itemLine("[%s] Data[%d].m_uchUnitId=%d", item.m_uchUnitId);
     });
-    return 0;
 }
 
-krm_long CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetUnitSettingGroupListUccAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_uchGroupId=%d", item.m_uchGroupId);
         itemLine("[%s] Data[%d].m_strGroupName=%s", item.m_strGroupName);
     });
-    return 0;
 }
 
-krm_long CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd::ErrWriteOperationLog");
+void CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd::Dump(const krm::MessageLines& line) {
     line.ForEach(
         Data, [](const auto& itemLine, auto& item) { itemLine("[%s] Data[%d].m_uchGroupId=%d", item.m_uchGroupId); });
-    return 0;
 }
 
-krm_long CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_uchGroupId=%d", item.m_uchGroupId);
         itemLine.ForEach(item.m_cSettingList, [](const auto& settingLine, auto& setting) {
@@ -76,5 +59,4 @@ krm_long CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog(
             settingLine("[%s] Data[%d].m_cSettingList[%d].m_uchUnitId=%d", setting.m_uchUnitId);
         });
     });
-    return 0;
 }

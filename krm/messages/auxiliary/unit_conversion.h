@@ -56,94 +56,85 @@ extern template class CKRMList<CKRMCUnitConversionCreationData>;
 
 /// Asks the engine to set up unit conversion.
 class KRM_API CKRMCCreateUnitConversionCommandUccAdaptDataSnd
-    : public MessageOf<CKRMCCreateUnitConversionCommandUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "CreateUnitConversionCommand")> {
+    : public krm::MessageOf<CKRMCCreateUnitConversionCommandUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
+                            "CreateUnitConversionCommand"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCUnitConversionCreationData> Data;  ///< what it is set up for
 };
 
 /// Unit conversion is set up.
 class KRM_API CKRMCCreateUnitConversionCommandUccAdaptDataRcv
-    : public MessageOf<CKRMCCreateUnitConversionCommandUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "CreateUnitConversionCommand")> {
-public:
-    ~CKRMCCreateUnitConversionCommandUccAdaptDataRcv() override;
-};
+    : public krm::MessageOf<CKRMCCreateUnitConversionCommandUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
+                            "CreateUnitConversionCommand"> {};
 
 /// Asks for the convertible items.
 class KRM_API CKRMCGetUnitConversionInfoListUccAdaptDataSnd
-    : public MessageOf<CKRMCGetUnitConversionInfoListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "GetUnitConversionInfoList")> {
-public:
-    ~CKRMCGetUnitConversionInfoListUccAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetUnitConversionInfoListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
+                            "GetUnitConversionInfoList"> {};
 
 /// The convertible items with their units.
 class KRM_API CKRMCGetUnitConversionInfoListUccAdaptDataRcv
-    : public MessageOf<CKRMCGetUnitConversionInfoListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "GetUnitConversionInfoList")> {
+    : public krm::MessageOf<CKRMCGetUnitConversionInfoListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
+                            "GetUnitConversionInfoList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCUnitConvDataItemInfo> Data;  ///< the items
 };
 
 /// Chooses the units of items.
 class KRM_API CKRMCSetUnitConversionInfoUccAdaptDataSnd
-    : public MessageOf<CKRMCSetUnitConversionInfoUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "SetUnitConversionInfo")> {
+    : public krm::MessageOf<CKRMCSetUnitConversionInfoUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
+                            "SetUnitConversionInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCUnitConversionData> Data;  ///< the choices; item and unit are used
 };
 
 /// The units that hold now.
 class KRM_API CKRMCSetUnitConversionInfoUccAdaptDataRcv
-    : public MessageOf<CKRMCSetUnitConversionInfoUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "SetUnitConversionInfo")> {
+    : public krm::MessageOf<CKRMCSetUnitConversionInfoUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
+                            "SetUnitConversionInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCUnitConversionData> Data;  ///< the units by genre; genre and unit are used
 };
 
 /// Asks for the unit setting groups.
 class KRM_API CKRMCGetUnitSettingGroupListUccAdaptDataSnd
-    : public MessageOf<CKRMCGetUnitSettingGroupListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "GetUnitSettingGroupList")> {
-public:
-    ~CKRMCGetUnitSettingGroupListUccAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetUnitSettingGroupListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
+                            "GetUnitSettingGroupList"> {};
 
 /// The unit setting groups.
 class KRM_API CKRMCGetUnitSettingGroupListUccAdaptDataRcv
-    : public MessageOf<CKRMCGetUnitSettingGroupListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "GetUnitSettingGroupList")> {
+    : public krm::MessageOf<CKRMCGetUnitSettingGroupListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
+                            "GetUnitSettingGroupList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCUnitConversionData> Data;  ///< the groups; group and group name are used
 };
 
 /// Asks for the settings of groups.
 class KRM_API CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd
-    : public MessageOf<CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "GetUnitSettingGroupParamList")> {
+    : public krm::MessageOf<CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
+                            "GetUnitSettingGroupParamList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCUnitConversionData> Data;  ///< the groups asked for; group is used
 };
 
 /// The settings of the groups.
 class KRM_API CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv
-    : public MessageOf<CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::UnitConversion, "GetUnitSettingGroupParamList")> {
+    : public krm::MessageOf<CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
+                            "GetUnitSettingGroupParamList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCUnitConvDataSettingInfo> Data;  ///< each group's settings
 };

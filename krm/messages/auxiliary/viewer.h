@@ -27,50 +27,36 @@ extern template class CKRMList<CKRMCDbHelpInfo>;
 
 /// Asks for the viewer's data control to be created.
 class KRM_API CKRMCCreateViewerDataCtrlVdcAdaptDataSnd
-    : public MessageOf<CKRMCCreateViewerDataCtrlVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Viewer, "CreateViewerDataCtrl")> {
+    : public krm::MessageOf<CKRMCCreateViewerDataCtrlVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd,
+                            "CreateViewerDataCtrl"> {
 public:
-    ~CKRMCCreateViewerDataCtrlVdcAdaptDataSnd() override;
-
     CKRMString m_strDataName;  ///< which data to control; its meaning is the engine's
     CKRMString m_strLanguage;  ///< language to show it in; its meaning is the engine's
 };
 
 /// The data control is created.
 class KRM_API CKRMCCreateViewerDataCtrlVdcAdaptDataRcv
-    : public MessageOf<CKRMCCreateViewerDataCtrlVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Viewer, "CreateViewerDataCtrl")> {
-public:
-    ~CKRMCCreateViewerDataCtrlVdcAdaptDataRcv() override;
-};
+    : public krm::MessageOf<CKRMCCreateViewerDataCtrlVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv,
+                            "CreateViewerDataCtrl"> {};
 
 /// Asks for help.
 class KRM_API CKRMCGetHelpInfoVdcAdptDataSnd
-    : public MessageOf<CKRMCGetHelpInfoVdcAdptDataSnd, CKRMCBaseVdcAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetHelpInfo")> {
+    : public krm::MessageOf<CKRMCGetHelpInfoVdcAdptDataSnd, CKRMCBaseVdcAdaptDataSnd, "GetHelpInfo"> {
 public:
-    ~CKRMCGetHelpInfoVdcAdptDataSnd() override;
-
     krm_ulong m_ulHelpId = 0;  ///< help asked for, as in the help IDs of other messages
 };
 
 /// The help.
 class KRM_API CKRMCGetHelpInfoVdcAdptDataRcv
-    : public MessageOf<CKRMCGetHelpInfoVdcAdptDataRcv, CKRMCBaseVdcAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetHelpInfo")> {
+    : public krm::MessageOf<CKRMCGetHelpInfoVdcAdptDataRcv, CKRMCBaseVdcAdaptDataRcv, "GetHelpInfo"> {
 public:
-    ~CKRMCGetHelpInfoVdcAdptDataRcv() override;
-
     CKRMList<CKRMCDbHelpInfo> Data;  ///< the pieces of the help
 };
 
 /// Asks for resources of the viewer on the PC.
 class KRM_API CKRMCGetPcViewerResourceVdcAdptDataSnd
-    : public MessageOf<CKRMCGetPcViewerResourceVdcAdptDataSnd, CKRMCBaseVdcAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetPcViewerResource")> {
+    : public krm::MessageOf<CKRMCGetPcViewerResourceVdcAdptDataSnd, CKRMCBaseVdcAdaptDataSnd, "GetPcViewerResource"> {
 public:
-    ~CKRMCGetPcViewerResourceVdcAdptDataSnd() override;
-
     krm_ulong m_ulResourceType = 1;  ///< kind of resource; 1, not 0, unless set. The codes are the engine's
     CKRMString m_strResourceName;    ///< resource asked for; its meaning is the engine's
     CKRMString m_strLanguage;        ///< language of the resource; its meaning is the engine's
@@ -78,50 +64,34 @@ public:
 
 /// The resources.
 class KRM_API CKRMCGetPcViewerResourceVdcAdptDataRcv
-    : public MessageOf<CKRMCGetPcViewerResourceVdcAdptDataRcv, CKRMCBaseVdcAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetPcViewerResource")> {
+    : public krm::MessageOf<CKRMCGetPcViewerResourceVdcAdptDataRcv, CKRMCBaseVdcAdaptDataRcv, "GetPcViewerResource"> {
 public:
-    ~CKRMCGetPcViewerResourceVdcAdptDataRcv() override;
-
     CKRMString m_strResourceName;                    ///< resource answered; its meaning is the engine's
     CKRMMap<CKRMString, CKRMString> m_cResourceMap;  ///< the resource's entries by key
 };
 
 /// Asks which data to hide.
 class KRM_API CKRMCGetHideAllDataVdcAdaptDataSnd
-    : public MessageOf<CKRMCGetHideAllDataVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetHideAllData")> {
-public:
-    ~CKRMCGetHideAllDataVdcAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetHideAllDataVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd, "GetHideAllData"> {};
 
 /// The data to hide.
 class KRM_API CKRMCGetHideAllDataVdcAdaptDataRcv
-    : public MessageOf<CKRMCGetHideAllDataVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetHideAllData")> {
+    : public krm::MessageOf<CKRMCGetHideAllDataVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv, "GetHideAllData"> {
 public:
-    ~CKRMCGetHideAllDataVdcAdaptDataRcv() override;
-
     CKRMList<unsigned short> m_ushHideDataList;  ///< IDs of the data to hide; their meaning is the engine's
 };
 
 /// Asks for the viewer's security level.
 class KRM_API CKRMCGetSecurityLevelVdcAdaptDataSnd
-    : public MessageOf<CKRMCGetSecurityLevelVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetSecurityLevel")> {
+    : public krm::MessageOf<CKRMCGetSecurityLevelVdcAdaptDataSnd, CKRMCBaseVdcAdaptDataSnd, "GetSecurityLevel"> {
 public:
-    ~CKRMCGetSecurityLevelVdcAdaptDataSnd() override;
-
     CKRMString m_strTarget;  ///< what, or who, the level is asked for; its meaning is the engine's
 };
 
 /// The viewer's security level: an ordinary setting, carried as data.
 class KRM_API CKRMCGetSecurityLevelVdcAdaptDataRcv
-    : public MessageOf<CKRMCGetSecurityLevelVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Viewer, "GetSecurityLevel")> {
+    : public krm::MessageOf<CKRMCGetSecurityLevelVdcAdaptDataRcv, CKRMCBaseVdcAdaptDataRcv, "GetSecurityLevel"> {
 public:
-    ~CKRMCGetSecurityLevelVdcAdaptDataRcv() override;
-
     krm_ulong m_ulSecurityLevel = 0;  ///< the level; the scale is the engine's
 };
 

@@ -34,38 +34,35 @@ extern template class CKRMList<CKRMCDiagWordsTableTranslationStringData>;
 
 /// Asks the engine to build the words table.
 class KRM_API CKRMCCreateDiagWordsTableDwtAdaptDataSnd
-    : public MessageOf<CKRMCCreateDiagWordsTableDwtAdaptDataSnd, CKRMCBaseDwtAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::WordsTable, "CreateDiagWordsTable")> {
+    : public krm::MessageOf<CKRMCCreateDiagWordsTableDwtAdaptDataSnd, CKRMCBaseDwtAdaptDataSnd,
+                            "CreateDiagWordsTable"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCDiagWordsTableCreationData> Data;  ///< what it is built for
 };
 
 /// The words table is built.
 class KRM_API CKRMCCreateDiagWordsTableDwtAdaptDataRcv
-    : public MessageOf<CKRMCCreateDiagWordsTableDwtAdaptDataRcv, CKRMCBaseDwtAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::WordsTable, "CreateDiagWordsTable")> {
-public:
-    ~CKRMCCreateDiagWordsTableDwtAdaptDataRcv() override;
-};
+    : public krm::MessageOf<CKRMCCreateDiagWordsTableDwtAdaptDataRcv, CKRMCBaseDwtAdaptDataRcv,
+                            "CreateDiagWordsTable"> {};
 
 /// Asks for the texts of words IDs.
 class KRM_API CKRMCGetTranslationStringDwtAdaptDataSnd
-    : public MessageOf<CKRMCGetTranslationStringDwtAdaptDataSnd, CKRMCBaseDwtAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::WordsTable, "GetTranslationString")> {
+    : public krm::MessageOf<CKRMCGetTranslationStringDwtAdaptDataSnd, CKRMCBaseDwtAdaptDataSnd,
+                            "GetTranslationString"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<krm_ulong> m_ulIdList;  ///< the words IDs
 };
 
 /// The texts.
 class KRM_API CKRMCGetTranslationStringDwtAdaptDataRcv
-    : public MessageOf<CKRMCGetTranslationStringDwtAdaptDataRcv, CKRMCBaseDwtAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::WordsTable, "GetTranslationString")> {
+    : public krm::MessageOf<CKRMCGetTranslationStringDwtAdaptDataRcv, CKRMCBaseDwtAdaptDataRcv,
+                            "GetTranslationString"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCDiagWordsTableTranslationStringData> m_cTranslationStringDataList;  ///< words IDs with their texts
 };

@@ -2,13 +2,16 @@
 
 #include "krm/framework/dump.h"
 
+template class CKRMList<CKRMCCommandDiagMessage>;
 template class CKRMList<CKRMCCommandTriggerData>;
 template class CKRMList<CKRMCCommandStartDataMonitorData>;
 template class CKRMList<CKRMCCommandDataMonitorIdData>;
 template class CKRMList<CKRMCCommandDmErrorData>;
 template class CKRMList<CKRMCCommandDmReceiveData>;
 
-CKRMCCommandTriggerData::~CKRMCCommandTriggerData() = default;
+void CKRMCCommandDiagMessage::Dump(const krm::RecordLines& line) {
+    line("%s.m_ulMsgLength=%d", m_ulMsgLength);
+}
 
 void CKRMCCommandTriggerData::Dump(const krm::RecordLines& line) {
     line("%s.m_ushTriggerItemId=%d", m_ushTriggerItemId);
@@ -29,17 +32,12 @@ void CKRMCCommandDmErrorData::Clear() {
     m_ulHelpId2 = 0;
 }
 
-CKRMCGetDataMonitorListCmdAdaptDataSnd::~CKRMCGetDataMonitorListCmdAdaptDataSnd() = default;
-
-krm_long CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetDataMonitorListCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line("[%s] Data[%d]", Data);
     line("[%s] m_uchA8SupportData:ByteNum=%d", m_uchA8SupportData.GetCount());
-    return 0;
 }
 
-krm_long CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog");
+void CKRMCStartDataMonitorCmdAdaptDataSnd::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_ushDataMonitorId=%d", item.m_ushDataMonitorId);
         itemLine("[%s] Data[%d].m_ulEcuId=%d", item.m_ulEcuId);
@@ -51,47 +49,29 @@ krm_long CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog() {
         itemLine("[%s] Data[%d].m_ulVolId=%d", item.m_ulVolId);
     });
     line("[%s] m_ushOscTimeId=%u", m_ushOscTimeId);
-    return 0;
 }
 
-krm_long CKRMCStartDataMonitorCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCStartDataMonitorCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCStartDataMonitorCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line("[%s] m_bDataMonitorEnable=%d", m_bDataMonitorEnable);
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_ushDataMonitorId=%d", item.m_ushDataMonitorId);
         itemLine("[%s] Data[%d].m_ulEcuId=%d", item.m_ulEcuId);
     });
-    return 0;
 }
 
-krm_long CKRMCGetDataMonitorValueCmdAdaptDataSnd::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetDataMonitorValueCmdAdaptDataSnd::ErrWriteOperationLog");
+void CKRMCGetDataMonitorValueCmdAdaptDataSnd::Dump(const krm::MessageLines& line) {
     line("[%s] m_ushDataMonitorId=%d", m_ushDataMonitorId);
-    return 0;
 }
 
-CKRMCGetDataMonitorValueCmdAdaptDataRcv::~CKRMCGetDataMonitorValueCmdAdaptDataRcv() = default;
-
-CKRMCGetTriggerItemCmdAdaptDataSnd::~CKRMCGetTriggerItemCmdAdaptDataSnd() = default;
-
-krm_long CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetTriggerItemCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line("[%s] m_cTriggerList[%d]", m_cTriggerList);
-    return 0;
 }
 
-CKRMCGetDescriptionCmdAdaptDataSnd::~CKRMCGetDescriptionCmdAdaptDataSnd() = default;
-
-krm_long CKRMCGetDescriptionCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetDescriptionCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetDescriptionCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line("[%s] m_strDescription=%s", m_strDescription);
-    return 0;
 }
 
-CKRMCGetDataMonitorErrorCmdAdaptDataSnd::~CKRMCGetDataMonitorErrorCmdAdaptDataSnd() = default;
-
-krm_long CKRMCGetDataMonitorErrorCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetDataMonitorErrorCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetDataMonitorErrorCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line.ForEach(Data, [](const auto& itemLine, auto& item) {
         itemLine("[%s] Data[%d].m_ushType=%d", item.m_ushType);
         itemLine("[%s] Data[%d].a_ulReturnCode=%u", item.m_cError.a_ulReturnCode);
@@ -103,45 +83,28 @@ krm_long CKRMCGetDataMonitorErrorCmdAdaptDataRcv::ErrWriteOperationLog() {
         itemLine("[%s] Data[%d].m_ulHelpId1=%u", item.m_ulHelpId1);
         itemLine("[%s] Data[%d].m_ulHelpId2=%u", item.m_ulHelpId2);
     });
-    return 0;
 }
 
-krm_long CKRMCGetCurrentDataValueCmdAdaptDataSnd::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetCurrentDataValueCmdAdaptDataSnd::ErrWriteOperationLog");
+void CKRMCGetCurrentDataValueCmdAdaptDataSnd::Dump(const krm::MessageLines& line) {
     line("[%s] m_cPidIdList[%d]=%d", m_cPidIdList);
-    return 0;
 }
 
-krm_long CKRMCGetCurrentDataValueCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetCurrentDataValueCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetCurrentDataValueCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line("[%s] Data[%d]", Data);
-    return 0;
 }
 
-CKRMCGetHexModeInfoCmdAdaptDataSnd::~CKRMCGetHexModeInfoCmdAdaptDataSnd() = default;
-
-krm_long CKRMCGetHexModeInfoCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetHexModeInfoCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetHexModeInfoCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line("[%s] m_ulAddressByte=%u", m_ulAddressByte);
-    return 0;
 }
 
-CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd::~CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd() = default;
-
-krm_long CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line.ForEach(m_cDmReceiveDataList, [](const auto& itemLine, auto& item) {
         itemLine("[%s] m_cDmReceiveDataList[%d].m_ushMessageType=%d", item.m_ushMessageType);
         itemLine("[%s] m_cDmReceiveDataList[%d].m_ulRidRecvValue=0x%08X", item.m_ulRidRecvValue);
         itemLine("[%s] m_cDmReceiveDataList[%d].m_ushRidId=%d", item.m_ushRidId);
     });
-    return 0;
 }
 
-CKRMCGetUnitInfoCmdAdaptDataSnd::~CKRMCGetUnitInfoCmdAdaptDataSnd() = default;
-
-krm_long CKRMCGetUnitInfoCmdAdaptDataRcv::ErrWriteOperationLog() {
-    const auto line = krm::BeginDump(*this, "CKRMCGetUnitInfoCmdAdaptDataRcv::ErrWriteOperationLog");
+void CKRMCGetUnitInfoCmdAdaptDataRcv::Dump(const krm::MessageLines& line) {
     line("[%s] Data[%d]", Data);
-    return 0;
 }

@@ -8,17 +8,26 @@
 #define KRM_MESSAGES_DIAG_DATA_MONITOR_H_
 
 #include "krm/core/list.h"
+#include "krm/core/types.h"
 #include "krm/framework/message.h"
 #include "krm/framework/record.h"
 #include "krm/messages/diag/display.h"
-#include "krm/messages/diag/oscilloscope_memory.h"
-#include "krm/messages/diag/trouble_codes.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/messages/diag/oscilloscope_channel.h"
 #include "krm/platform/platform.h"
 
-/// One trigger item of the data monitor: what it watches and when it fires.
-class KRM_API CKRMCCommandTriggerData : public RecordOf<CKRMCCommandTriggerData> {
+/// The length of a diagnosis message. GetUnitInfo answers with these.
+class KRM_API CKRMCCommandDiagMessage : public krm::RecordOf<CKRMCCommandDiagMessage> {
 public:
-    ~CKRMCCommandTriggerData() override;
+    void Dump(const krm::RecordLines& line);
+
+    krm_ulong m_ulMsgLength = 0;  ///< message length
+};
+extern template class CKRMList<CKRMCCommandDiagMessage>;
+
+/// One trigger item of the data monitor: what it watches and when it fires.
+class KRM_API CKRMCCommandTriggerData : public krm::RecordOf<CKRMCCommandTriggerData> {
+public:
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushTriggerItemId = 0;
@@ -84,18 +93,13 @@ extern template class CKRMList<CKRMCCommandDmReceiveData>;
 
 /// GetDataMonitorList asks which values can be monitored.
 class KRM_API CKRMCGetDataMonitorListCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetDataMonitorListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorList")> {
-public:
-    ~CKRMCGetDataMonitorListCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetDataMonitorListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetDataMonitorList"> {};
 
 /// Answers with the items.
 class KRM_API CKRMCGetDataMonitorListCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetDataMonitorListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorList")> {
+    : public krm::MessageOf<CKRMCGetDataMonitorListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetDataMonitorList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandFFDData> Data;          ///< the items that can be monitored
     CKRMList<unsigned char> m_uchA8SupportData;  ///< support data, the engine's to interpret; logged by its length only
@@ -103,10 +107,9 @@ public:
 
 /// StartDataMonitor asks to start data monitors and the oscilloscope beside them.
 class KRM_API CKRMCStartDataMonitorCmdAdaptDataSnd
-    : public MessageOf<CKRMCStartDataMonitorCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "StartDataMonitor")> {
+    : public krm::MessageOf<CKRMCStartDataMonitorCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "StartDataMonitor"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandStartDataMonitorData> Data;
     CKRMList<CKRMCCommandOscInfo> m_cOscInfoList;  ///< oscilloscope channels; logged under the name Data too
@@ -115,10 +118,9 @@ public:
 
 /// Answers which data monitors run.
 class KRM_API CKRMCStartDataMonitorCmdAdaptDataRcv
-    : public MessageOf<CKRMCStartDataMonitorCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "StartDataMonitor")> {
+    : public krm::MessageOf<CKRMCStartDataMonitorCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "StartDataMonitor"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     bool m_bDataMonitorEnable = false;
     CKRMList<CKRMCCommandDataMonitorIdData> Data;
@@ -126,149 +128,116 @@ public:
 
 /// GetDataMonitorValue asks for the current values of a data monitor.
 class KRM_API CKRMCGetDataMonitorValueCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetDataMonitorValueCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorValue")> {
+    : public krm::MessageOf<CKRMCGetDataMonitorValueCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetDataMonitorValue"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned short m_ushDataMonitorId = 0;
 };
 
 /// Answers with the values. They stay out of the log, which gets the base's lines only.
 class KRM_API CKRMCGetDataMonitorValueCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetDataMonitorValueCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorValue")> {
+    : public krm::MessageOf<CKRMCGetDataMonitorValueCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetDataMonitorValue"> {
 public:
-    ~CKRMCGetDataMonitorValueCmdAdaptDataRcv() override;
-
     CKRMList<CKRMCCommandFFDData> Data;     ///< current values
     unsigned short m_ushValueReserved = 0;  ///< stored and copied, never logged
 };
 
 /// GetTriggerItem asks what the data monitor can be triggered by.
 class KRM_API CKRMCGetTriggerItemCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetTriggerItemCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetTriggerItem")> {
-public:
-    ~CKRMCGetTriggerItemCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetTriggerItemCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetTriggerItem"> {};
 
 /// Answers with the trigger items.
 class KRM_API CKRMCGetTriggerItemCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetTriggerItemCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetTriggerItem")> {
+    : public krm::MessageOf<CKRMCGetTriggerItemCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetTriggerItem"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandTriggerData> m_cTriggerList;
 };
 
 /// GetDescription asks for a description.
 class KRM_API CKRMCGetDescriptionCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetDescriptionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDescription")> {
-public:
-    ~CKRMCGetDescriptionCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetDescriptionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetDescription"> {};
 
 /// Answers with the text.
 class KRM_API CKRMCGetDescriptionCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetDescriptionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDescription")> {
+    : public krm::MessageOf<CKRMCGetDescriptionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetDescription"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMString m_strDescription;
 };
 
 /// GetDataMonitorError asks what went wrong in the data monitor.
 class KRM_API CKRMCGetDataMonitorErrorCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetDataMonitorErrorCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorError")> {
-public:
-    ~CKRMCGetDataMonitorErrorCmdAdaptDataSnd() override;
+    : public krm::MessageOf<CKRMCGetDataMonitorErrorCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetDataMonitorError"> {
 };
 
 /// Answers with the errors.
 class KRM_API CKRMCGetDataMonitorErrorCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetDataMonitorErrorCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorError")> {
+    : public krm::MessageOf<CKRMCGetDataMonitorErrorCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetDataMonitorError"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandDmErrorData> Data;
 };
 
 /// GetCurrentDataValue asks for the current values of these parameters, without a data monitor.
 class KRM_API CKRMCGetCurrentDataValueCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetCurrentDataValueCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetCurrentDataValue")> {
+    : public krm::MessageOf<CKRMCGetCurrentDataValueCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetCurrentDataValue"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<unsigned short> m_cPidIdList;  ///< parameter IDs (PIDs)
 };
 
 /// Answers with the values.
 class KRM_API CKRMCGetCurrentDataValueCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetCurrentDataValueCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetCurrentDataValue")> {
+    : public krm::MessageOf<CKRMCGetCurrentDataValueCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetCurrentDataValue"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandFFDData> Data;
 };
 
 /// GetHexModeInfo asks how memory addresses are shown.
 class KRM_API CKRMCGetHexModeInfoCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetHexModeInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetHexModeInfo")> {
-public:
-    ~CKRMCGetHexModeInfoCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetHexModeInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetHexModeInfo"> {};
 
 /// Answers with their width.
 class KRM_API CKRMCGetHexModeInfoCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetHexModeInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetHexModeInfo")> {
+    : public krm::MessageOf<CKRMCGetHexModeInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetHexModeInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     krm_ulong m_ulAddressByte = 0;  ///< bytes of an address
 };
 
 /// GetDataMonitorReceiveInfo asks what the data monitor received.
 class KRM_API CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorReceiveInfo")> {
-public:
-    ~CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
+                            "GetDataMonitorReceiveInfo"> {};
 
 /// Answers with it.
 class KRM_API CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDataMonitorReceiveInfo")> {
+    : public krm::MessageOf<CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
+                            "GetDataMonitorReceiveInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandDmReceiveData> m_cDmReceiveDataList;
 };
 
 /// GetUnitInfo asks for the lengths of the unit's diagnostic messages.
 class KRM_API CKRMCGetUnitInfoCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetUnitInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetUnitInfo")> {
-public:
-    ~CKRMCGetUnitInfoCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetUnitInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetUnitInfo"> {};
 
 /// Answers with a record per message.
 class KRM_API CKRMCGetUnitInfoCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetUnitInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetUnitInfo")> {
+    : public krm::MessageOf<CKRMCGetUnitInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetUnitInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandDiagMessage> Data;
 };

@@ -7,8 +7,6 @@ template class CKRMList<CKRMCCommandDispData>;
 template class CKRMList<CKRMCCommandDispVariableData>;
 template class CKRMList<CKRMCCommandConversionData>;
 
-CKRMCCommandDataLayout::~CKRMCCommandDataLayout() = default;
-
 void CKRMCCommandDataLayout::Dump(const krm::RecordLines& line) {
     line("%s.m_ulPidNo=0x%X", m_ulPidNo);
     line("%s.m_ulDataLen=%u", m_ulDataLen);
@@ -17,8 +15,6 @@ void CKRMCCommandDataLayout::Dump(const krm::RecordLines& line) {
     line("%s.m_ulBytePos=%u", m_ulBytePos);
     line("%s.m_ulBitMask=0x%08X", m_ulBitMask);
 }
-
-CKRMCCommandDispData::~CKRMCCommandDispData() = default;
 
 void CKRMCCommandDispData::Dump(const krm::RecordLines& line) {
     line("%s.m_ulDataStringId=%d", m_ulDataStringId);
@@ -32,8 +28,6 @@ void CKRMCCommandDispData::Dump(const krm::RecordLines& line) {
     line("%s.m_ulDispDataType=%d", m_ulDispDataType);
 }
 
-CKRMCCommandDispVariableData::~CKRMCCommandDispVariableData() = default;
-
 void CKRMCCommandDispVariableData::Dump(const krm::RecordLines& line) {
     line("%s.m_ulDataStringId=%d", m_ulDataStringId);
     line("%s.m_strDataPhys=%s", m_strDataPhys);
@@ -44,8 +38,6 @@ void CKRMCCommandDispVariableData::Dump(const krm::RecordLines& line) {
     line("%s.m_chIndex=%d", m_chIndex);
     line("%s.m_ulDispDataType=%d", m_ulDispDataType);
 }
-
-CKRMCCommandConversionData::~CKRMCCommandConversionData() = default;
 
 void CKRMCCommandConversionData::Dump(const krm::RecordLines& line) {
     line("%s.m_lMul=%d", m_lMul);

@@ -10,9 +10,8 @@
 #include "krm/platform/platform.h"
 
 /// Where a value lies in the ECU's response. Cutting it out is the caller's business.
-class KRM_API CKRMCCommandDataLayout : public RecordOf<CKRMCCommandDataLayout> {
+class KRM_API CKRMCCommandDataLayout : public krm::RecordOf<CKRMCCommandDataLayout> {
 public:
-    ~CKRMCCommandDataLayout() override;
     void Dump(const krm::RecordLines& line);
 
     krm_ulong m_ulPidNo = 0;        ///< parameter ID (PID) that the value comes from
@@ -25,9 +24,8 @@ public:
 extern template class CKRMList<CKRMCCommandDataLayout>;
 
 /// One display value, or one entry of a pattern table, which maps a raw value to a text.
-class KRM_API CKRMCCommandDispData : public RecordOf<CKRMCCommandDispData> {
+class KRM_API CKRMCCommandDispData : public krm::RecordOf<CKRMCCommandDispData> {
 public:
-    ~CKRMCCommandDispData() override;
     void Dump(const krm::RecordLines& line);
 
     krm_ulong m_ulDataStringId = 0;  ///< words ID of the display text, 0 where the text was formatted
@@ -44,9 +42,8 @@ public:
 extern template class CKRMList<CKRMCCommandDispData>;
 
 /// A display value, or a pattern, whose raw data is a string of bytes.
-class KRM_API CKRMCCommandDispVariableData : public RecordOf<CKRMCCommandDispVariableData> {
+class KRM_API CKRMCCommandDispVariableData : public krm::RecordOf<CKRMCCommandDispVariableData> {
 public:
-    ~CKRMCCommandDispVariableData() override;
     void Dump(const krm::RecordLines& line);
 
     krm_ulong m_ulDataStringId = 0;            ///< words ID of the display text
@@ -64,9 +61,8 @@ extern template class CKRMList<CKRMCCommandDispVariableData>;
 /// The conversion rule of a value: scaling, sign, bit length, limits and pattern table, as the converters take them.
 ///
 /// A new record has a multiplier of 0 and a divisor of 0, not 1: whoever fills it sets both.
-class KRM_API CKRMCCommandConversionData : public RecordOf<CKRMCCommandConversionData> {
+class KRM_API CKRMCCommandConversionData : public krm::RecordOf<CKRMCCommandConversionData> {
 public:
-    ~CKRMCCommandConversionData() override;
     void Dump(const krm::RecordLines& line);
 
     krm_long m_lMul = 0;                ///< multiplier; 0 makes every value 0

@@ -7,9 +7,11 @@
 #define KRM_MESSAGES_DIAG_VEHICLE_H_
 
 #include "krm/core/list.h"
+#include "krm/core/types.h"
 #include "krm/framework/message.h"
 #include "krm/framework/record.h"
-#include "krm/messages/diag/trouble_codes.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/messages/diag/j2534_config.h"
 #include "krm/messages/diag/words.h"
 #include "krm/platform/platform.h"
 
@@ -25,9 +27,8 @@ public:
 extern template class CKRMList<CKRMCCommandCarTypeCategoryIdData>;
 
 /// One possible choice in a car type category.
-class KRM_API CKRMCCommandCarTypeCategoryContentsData : public RecordOf<CKRMCCommandCarTypeCategoryContentsData> {
+class KRM_API CKRMCCommandCarTypeCategoryContentsData : public krm::RecordOf<CKRMCCommandCarTypeCategoryContentsData> {
 public:
-    ~CKRMCCommandCarTypeCategoryContentsData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushSortIndex = 0;  ///< where the choice stands in the list that the user sees
@@ -38,9 +39,8 @@ public:
 extern template class CKRMList<CKRMCCommandCarTypeCategoryContentsData>;
 
 /// A car type category with all its choices.
-class KRM_API CKRMCCommandCarTypeCategoryData : public RecordOf<CKRMCCommandCarTypeCategoryData> {
+class KRM_API CKRMCCommandCarTypeCategoryData : public krm::RecordOf<CKRMCCommandCarTypeCategoryData> {
 public:
-    ~CKRMCCommandCarTypeCategoryData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushCarTypeCategoryId = 0;
@@ -49,9 +49,8 @@ public:
 extern template class CKRMList<CKRMCCommandCarTypeCategoryData>;
 
 /// One possible choice of a car type option.
-class KRM_API CKRMCCommandCarTypeOptionContentsData : public RecordOf<CKRMCCommandCarTypeOptionContentsData> {
+class KRM_API CKRMCCommandCarTypeOptionContentsData : public krm::RecordOf<CKRMCCommandCarTypeOptionContentsData> {
 public:
-    ~CKRMCCommandCarTypeOptionContentsData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushCarTypeOptionContentsId = 0;
@@ -61,9 +60,8 @@ public:
 extern template class CKRMList<CKRMCCommandCarTypeOptionContentsData>;
 
 /// A car type option with all its choices.
-class KRM_API CKRMCCommandCarTypeOptionData : public RecordOf<CKRMCCommandCarTypeOptionData> {
+class KRM_API CKRMCCommandCarTypeOptionData : public krm::RecordOf<CKRMCCommandCarTypeOptionData> {
 public:
-    ~CKRMCCommandCarTypeOptionData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushCarTypeOptionIndex = 0;
@@ -72,9 +70,8 @@ public:
 extern template class CKRMList<CKRMCCommandCarTypeOptionData>;
 
 /// A value that is a number or words; the type says which.
-class KRM_API CKRMCCommandVariantData : public RecordOf<CKRMCCommandVariantData> {
+class KRM_API CKRMCCommandVariantData : public krm::RecordOf<CKRMCCommandVariantData> {
 public:
-    ~CKRMCCommandVariantData() override;
     void Dump(const krm::RecordLines& line);
 
     krm_ulong m_ulVarType = 0;        ///< kind of value
@@ -84,9 +81,8 @@ public:
 extern template class CKRMList<CKRMCCommandVariantData>;
 
 /// One ECU of the vehicle: how it is reached, and what it is called.
-class KRM_API CKRMCCommandEcuData : public RecordOf<CKRMCCommandEcuData> {
+class KRM_API CKRMCCommandEcuData : public krm::RecordOf<CKRMCCommandEcuData> {
 public:
-    ~CKRMCCommandEcuData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushEcuConnectionStatus = 0;
@@ -100,9 +96,8 @@ public:
 extern template class CKRMList<CKRMCCommandEcuData>;
 
 /// A group of ECUs, such as power train or body.
-class KRM_API CKRMCCommandEcuGroupData : public RecordOf<CKRMCCommandEcuGroupData> {
+class KRM_API CKRMCCommandEcuGroupData : public krm::RecordOf<CKRMCCommandEcuGroupData> {
 public:
-    ~CKRMCCommandEcuGroupData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushGroupId = 0;
@@ -123,9 +118,8 @@ public:
 extern template class CKRMList<CKRMCCommandEcuFunctionData>;
 
 /// One named piece of vehicle information with its values.
-class KRM_API CKRMCCommandVehicleInfoItem : public RecordOf<CKRMCCommandVehicleInfoItem> {
+class KRM_API CKRMCCommandVehicleInfoItem : public krm::RecordOf<CKRMCCommandVehicleInfoItem> {
 public:
-    ~CKRMCCommandVehicleInfoItem() override;
     void Dump(const krm::RecordLines& line);
 
     krm_ulong m_ulNameId = 0;  ///< words ID of the name
@@ -136,9 +130,8 @@ public:
 extern template class CKRMList<CKRMCCommandVehicleInfoItem>;
 
 /// One piece of vehicle information that has been chosen, or can be.
-class KRM_API CKRMCCommandVehicleInfoData : public RecordOf<CKRMCCommandVehicleInfoData> {
+class KRM_API CKRMCCommandVehicleInfoData : public krm::RecordOf<CKRMCCommandVehicleInfoData> {
 public:
-    ~CKRMCCommandVehicleInfoData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushVehicleInfoId = 0;  ///< kind of information
@@ -148,9 +141,8 @@ public:
 extern template class CKRMList<CKRMCCommandVehicleInfoData>;
 
 /// A kind of vehicle information that is still open, with what it can be.
-class KRM_API CKRMCCommandVehicleInfoSelectData : public RecordOf<CKRMCCommandVehicleInfoSelectData> {
+class KRM_API CKRMCCommandVehicleInfoSelectData : public krm::RecordOf<CKRMCCommandVehicleInfoSelectData> {
 public:
-    ~CKRMCCommandVehicleInfoSelectData() override;
     void Dump(const krm::RecordLines& line);
 
     unsigned short m_ushVehicleInfoId = 0;                             ///< kind of information
@@ -159,25 +151,14 @@ public:
 extern template class CKRMList<CKRMCCommandVehicleInfoSelectData>;
 
 /// One piece of information about a system of the vehicle.
-class KRM_API CKRMCCommandVehicleSystemInfo : public RecordOf<CKRMCCommandVehicleSystemInfo> {
+class KRM_API CKRMCCommandVehicleSystemInfo : public krm::RecordOf<CKRMCCommandVehicleSystemInfo> {
 public:
-    ~CKRMCCommandVehicleSystemInfo() override;
     void Dump(const krm::RecordLines& line);
 
     krm_ulong m_ulInfoId = 0;
     CKRMList<CKRMCCommandVariantData> m_cInfoData;  ///< its values
 };
 extern template class CKRMList<CKRMCCommandVehicleSystemInfo>;
-
-/// One configuration parameter of SAE J2534 and its value. The message that holds it writes its log lines.
-class KRM_API CKRMCCommandJ2534Config {
-public:
-    void Clear() { *this = CKRMCCommandJ2534Config(); }
-
-    krm_ulong m_ulParameter = 0;
-    krm_ulong m_ulValue = 0;
-};
-extern template class CKRMList<CKRMCCommandJ2534Config>;
 
 /// One identifier that the communication controller is created with. The message that holds it writes its log lines.
 class KRM_API CKRMCWrapperCreationData {
@@ -191,10 +172,9 @@ extern template class CKRMList<CKRMCWrapperCreationData>;
 
 /// VehicleDecision asks what is still to choose, given the choices made so far.
 class KRM_API CKRMCVehicleDecisionCmdAdaptDataSnd
-    : public MessageOf<CKRMCVehicleDecisionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "VehicleDecision")> {
+    : public krm::MessageOf<CKRMCVehicleDecisionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "VehicleDecision"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned short m_ushDivisionId = 0;                ///< division that the vehicle belongs to
     CKRMList<CKRMCCommandCarTypeCategoryIdData> Data;  ///< the choices made
@@ -204,10 +184,9 @@ public:
 
 /// Answers with the categories and the option that are still open.
 class KRM_API CKRMCVehicleDecisionCmdAdaptDataRcv
-    : public MessageOf<CKRMCVehicleDecisionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "VehicleDecision")> {
+    : public krm::MessageOf<CKRMCVehicleDecisionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "VehicleDecision"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandCarTypeCategoryData> Data;
     unsigned char m_uchStatusId = 0;  ///< how far the decision has come
@@ -216,48 +195,40 @@ public:
 
 /// GetGroupEcuList asks for the ECUs of the vehicle.
 class KRM_API CKRMCGetGroupEcuListCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetGroupEcuListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetGroupEcuList")> {
-public:
-    ~CKRMCGetGroupEcuListCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetGroupEcuListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetGroupEcuList"> {};
 
 /// Answers with the ECUs by group.
 class KRM_API CKRMCGetGroupEcuListCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetGroupEcuListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetGroupEcuList")> {
+    : public krm::MessageOf<CKRMCGetGroupEcuListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetGroupEcuList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandEcuGroupData> Data;
 };
 
 /// GetEcuFunctionList asks what an ECU of this phase can do.
 class KRM_API CKRMCGetEcuFunctionListCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetEcuFunctionListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetEcuFunctionList")> {
+    : public krm::MessageOf<CKRMCGetEcuFunctionListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetEcuFunctionList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned char m_uchPhaseType = 0;
 };
 
 /// Answers with the ECU's functions and their details.
 class KRM_API CKRMCGetEcuFunctionListCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetEcuFunctionListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetEcuFunctionList")> {
+    : public krm::MessageOf<CKRMCGetEcuFunctionListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetEcuFunctionList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandEcuFunctionData> Data;
 };
 
 /// EcuConnect asks to connect an ECU of a group on a bus.
 class KRM_API CKRMCEcuConnectCmdAdaptDataSnd
-    : public MessageOf<CKRMCEcuConnectCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "EcuConnect")> {
+    : public krm::MessageOf<CKRMCEcuConnectCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "EcuConnect"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned short m_ushGroupId = 0;
     unsigned short m_ushBusId = 0;
@@ -265,10 +236,9 @@ public:
 
 /// Answers whether it is connected, and which ECU it is.
 class KRM_API CKRMCEcuConnectCmdAdaptDataRcv
-    : public MessageOf<CKRMCEcuConnectCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "EcuConnect")> {
+    : public krm::MessageOf<CKRMCEcuConnectCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "EcuConnect"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     bool m_bConnect = false;
     krm_ulong m_ulEcuId = 0;
@@ -280,86 +250,71 @@ public:
 
 /// CreateCommCtrlMain asks to create the communication controller.
 class KRM_API CKRMCCreateCommCtrlMainCmdAdaptDataSnd
-    : public MessageOf<CKRMCCreateCommCtrlMainCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "CreateCommCtrlMain")> {
+    : public krm::MessageOf<CKRMCCreateCommCtrlMainCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "CreateCommCtrlMain"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCWrapperCreationData> Data;  ///< what to create it with
 };
 
 /// Answers; carries nothing beyond its base.
 class KRM_API CKRMCCreateCommCtrlMainCmdAdaptDataRcv
-    : public MessageOf<CKRMCCreateCommCtrlMainCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "CreateCommCtrlMain")> {
-public:
-    ~CKRMCCreateCommCtrlMainCmdAdaptDataRcv() override;
-};
+    : public krm::MessageOf<CKRMCCreateCommCtrlMainCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "CreateCommCtrlMain"> {};
 
 /// GetJ2534ConfigParam asks for the SAE J2534 configuration of a bus.
 class KRM_API CKRMCGetJ2534ConfigParamCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetJ2534ConfigParamCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetJ2534ConfigParam")> {
+    : public krm::MessageOf<CKRMCGetJ2534ConfigParamCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetJ2534ConfigParam"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned short m_ushBusId = 0;
 };
 
 /// Answers with its parameters.
 class KRM_API CKRMCGetJ2534ConfigParamCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetJ2534ConfigParamCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetJ2534ConfigParam")> {
+    : public krm::MessageOf<CKRMCGetJ2534ConfigParamCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetJ2534ConfigParam"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandJ2534Config> Data;
 };
 
 /// InitMountEcuList asks to set up the list of the ECUs that the model is equipped with.
 class KRM_API CKRMCInitMountEcuListCmdAdaptDataSnd
-    : public MessageOf<CKRMCInitMountEcuListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "InitMountEcuList")> {
+    : public krm::MessageOf<CKRMCInitMountEcuListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "InitMountEcuList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned short m_ushModelId = 0;
 };
 
 /// Answers whether it is set up.
 class KRM_API CKRMCInitMountEcuListCmdAdaptDataRcv
-    : public MessageOf<CKRMCInitMountEcuListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "InitMountEcuList")> {
+    : public krm::MessageOf<CKRMCInitMountEcuListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "InitMountEcuList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     bool m_bInitialize = false;
 };
 
 /// ReadVBatt asks for the battery voltage.
 class KRM_API CKRMCReadVBattCmdAdaptDataSnd
-    : public MessageOf<CKRMCReadVBattCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "ReadVBatt")> {
-public:
-    ~CKRMCReadVBattCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCReadVBattCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "ReadVBatt"> {};
 
 /// Answers with the voltage.
 class KRM_API CKRMCReadVBattCmdAdaptDataRcv
-    : public MessageOf<CKRMCReadVBattCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "ReadVBatt")> {
+    : public krm::MessageOf<CKRMCReadVBattCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "ReadVBatt"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     krm_ulong m_ulVBattValue = 0;  ///< battery voltage; its unit is the engine's
 };
 
 /// SelectCarId asks to select the vehicle that the choices lead to.
 class KRM_API CKRMCSelectCarIdCmdAdaptDataSnd
-    : public MessageOf<CKRMCSelectCarIdCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "SelectCarId")> {
+    : public krm::MessageOf<CKRMCSelectCarIdCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "SelectCarId"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned short m_ushVehicleId = 0;
     krm_ulong m_ulParentEcuId = 0;                     ///< ECU that stands above the request's
@@ -369,38 +324,31 @@ public:
 
 /// Answers with the categories that are still open.
 class KRM_API CKRMCSelectCarIdCmdAdaptDataRcv
-    : public MessageOf<CKRMCSelectCarIdCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "SelectCarId")> {
+    : public krm::MessageOf<CKRMCSelectCarIdCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "SelectCarId"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandCarTypeCategoryData> Data;
 };
 
 /// GetDiagSession asks which diagnostic session the ECU is in.
 class KRM_API CKRMCGetDiagSessionCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetDiagSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDiagSession")> {
-public:
-    ~CKRMCGetDiagSessionCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetDiagSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetDiagSession"> {};
 
 /// Answers with the session.
 class KRM_API CKRMCGetDiagSessionCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetDiagSessionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetDiagSession")> {
+    : public krm::MessageOf<CKRMCGetDiagSessionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetDiagSession"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned char m_uchDiagSessionType = 0;
 };
 
 /// SetDiagSession asks to enter a diagnostic session.
 class KRM_API CKRMCSetDiagSessionCmdAdaptDataSnd
-    : public MessageOf<CKRMCSetDiagSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "SetDiagSession")> {
+    : public krm::MessageOf<CKRMCSetDiagSessionCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "SetDiagSession"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     unsigned char m_uchDiagSessionType = 0;
     bool m_bIgOnOffCount = false;          ///< the count below is given
@@ -409,124 +357,105 @@ public:
 
 /// Answers whether it is entered.
 class KRM_API CKRMCSetDiagSessionCmdAdaptDataRcv
-    : public MessageOf<CKRMCSetDiagSessionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "SetDiagSession")> {
+    : public krm::MessageOf<CKRMCSetDiagSessionCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "SetDiagSession"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     bool m_bResult = false;
 };
 
 /// GetVehicleInfo asks what is known of the vehicle.
 class KRM_API CKRMCGetVehicleInfoCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetVehicleInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetVehicleInfo")> {
-public:
-    ~CKRMCGetVehicleInfoCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetVehicleInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetVehicleInfo"> {};
 
 /// Answers with named items and their values.
 class KRM_API CKRMCGetVehicleInfoCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetVehicleInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetVehicleInfo")> {
+    : public krm::MessageOf<CKRMCGetVehicleInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetVehicleInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandVehicleInfoItem> Data;
 };
 
 /// GetAllDtcSystemList asks which systems trouble codes can be read from.
 class KRM_API CKRMCGetAllDtcSystemListCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetAllDtcSystemListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetAllDtcSystemList")> {
-public:
-    ~CKRMCGetAllDtcSystemListCmdAdaptDataSnd() override;
+    : public krm::MessageOf<CKRMCGetAllDtcSystemListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetAllDtcSystemList"> {
 };
 
 /// Answers with the systems.
 class KRM_API CKRMCGetAllDtcSystemListCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetAllDtcSystemListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetAllDtcSystemList")> {
+    : public krm::MessageOf<CKRMCGetAllDtcSystemListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetAllDtcSystemList"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<krm_ulong> m_ulSystemIdList;
 };
 
 /// GetVinCode asks for the vehicle identification number (VIN).
 class KRM_API CKRMCGetVinCodeCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetVinCodeCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetVinCode")> {
-public:
-    ~CKRMCGetVinCodeCmdAdaptDataSnd() override;
-};
+    : public krm::MessageOf<CKRMCGetVinCodeCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetVinCode"> {};
 
 /// Answers with the VIN.
 class KRM_API CKRMCGetVinCodeCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetVinCodeCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetVinCode")> {
+    : public krm::MessageOf<CKRMCGetVinCodeCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetVinCode"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMString m_strVinCode;
 };
 
 /// GetCarCategoryVin asks what the VIN says about these categories.
 class KRM_API CKRMCGetCarCategoryVinCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetCarCategoryVinCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetCarCategoryVin")> {
+    : public krm::MessageOf<CKRMCGetCarCategoryVinCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetCarCategoryVin"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandCarTypeCategoryData> Data;
 };
 
 /// Answers with the categories and what the VIN leaves of their choices.
 class KRM_API CKRMCGetCarCategoryVinCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetCarCategoryVinCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetCarCategoryVin")> {
+    : public krm::MessageOf<CKRMCGetCarCategoryVinCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetCarCategoryVin"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandCarTypeCategoryData> Data;
 };
 
 /// GetVehicleSystemInfo asks for the information about a system of the vehicle.
 class KRM_API CKRMCGetVehicleSystemInfoCmdAdaptDataSnd
-    : public MessageOf<CKRMCGetVehicleSystemInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetVehicleSystemInfo")> {
+    : public krm::MessageOf<CKRMCGetVehicleSystemInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
+                            "GetVehicleSystemInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     krm_ulong m_ulSystemId = 0;
 };
 
 /// Answers with the information.
 class KRM_API CKRMCGetVehicleSystemInfoCmdAdaptDataRcv
-    : public MessageOf<CKRMCGetVehicleSystemInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "GetVehicleSystemInfo")> {
+    : public krm::MessageOf<CKRMCGetVehicleSystemInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
+                            "GetVehicleSystemInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandVehicleSystemInfo> Data;
 };
 
 /// SelectVehicleInfo asks to select the vehicle by the information chosen so far.
 class KRM_API CKRMCSelectVehicleInfoCmdAdaptDataSnd
-    : public MessageOf<CKRMCSelectVehicleInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "SelectVehicleInfo")> {
+    : public krm::MessageOf<CKRMCSelectVehicleInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "SelectVehicleInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandVehicleInfoData> m_cVehicleInfoList;  ///< what has been chosen
 };
 
 /// Answers with what is settled and what is still open.
 class KRM_API CKRMCSelectVehicleInfoCmdAdaptDataRcv
-    : public MessageOf<CKRMCSelectVehicleInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
-                       krm::CommandId(krm::CommandFamily::Diagnostic, "SelectVehicleInfo")> {
+    : public krm::MessageOf<CKRMCSelectVehicleInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "SelectVehicleInfo"> {
 public:
-    krm_long ErrWriteOperationLog() override;
+    void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandVehicleInfoData> m_cVehicleInfoList;              ///< settled
     CKRMList<CKRMCCommandVehicleInfoSelectData> m_cVehicleInfoSelectList;  ///< still open, with the choices

@@ -5,6 +5,9 @@
 #include <tuple>
 
 #include "krm/messages/diag/active_test.h"
+#include "krm/messages/diag/data_item.h"
+#include "krm/messages/diag/special_operation.h"
+#include "krm/messages/diag/utilities.h"
 #include "tests/messages/diag/display_fields.h"
 #include "tests/messages/diag/oscilloscope_memory_fields.h"
 #include "tests/messages/diag/trouble_codes_fields.h"

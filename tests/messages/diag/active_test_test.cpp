@@ -5,6 +5,11 @@
 #include <string>
 #include <type_traits>
 
+#include "krm/messages/diag/data_item.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/messages/diag/j2534_config.h"
+#include "krm/messages/diag/special_operation.h"
+#include "krm/messages/diag/utilities.h"
 #include "tests/messages/diag/active_test_fields.h"
 #include "tests/messages/diag/expected_lines.h"
 #include "tests/support/log_text.h"

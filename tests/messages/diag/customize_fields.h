@@ -4,7 +4,10 @@
 
 #include <tuple>
 
+#include "krm/messages/diag/can_bus.h"
+#include "krm/messages/diag/cancel_codes.h"
 #include "krm/messages/diag/customize.h"
+#include "krm/messages/diag/on_board_monitor.h"
 #include "tests/messages/diag/display_fields.h"
 #include "tests/messages/diag/trouble_codes_fields.h"
 #include "tests/support/fields.h"

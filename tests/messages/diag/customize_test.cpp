@@ -6,6 +6,10 @@
 #include <string>
 #include <type_traits>
 
+#include "krm/messages/diag/can_bus.h"
+#include "krm/messages/diag/cancel_codes.h"
+#include "krm/messages/diag/on_board_monitor.h"
+#include "krm/messages/diag/trouble_code.h"
 #include "tests/messages/diag/customize_fields.h"
 #include "tests/messages/diag/expected_lines.h"
 #include "tests/support/log_text.h"

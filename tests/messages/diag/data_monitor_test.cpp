@@ -5,6 +5,7 @@
 #include <string>
 #include <type_traits>
 
+#include "krm/messages/diag/oscilloscope_channel.h"
 #include "tests/messages/diag/data_monitor_fields.h"
 #include "tests/messages/diag/sample_records.h"
 #include "tests/support/class_checks.h"

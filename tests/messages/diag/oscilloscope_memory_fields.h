@@ -4,7 +4,10 @@
 
 #include <tuple>
 
-#include "krm/messages/diag/oscilloscope_memory.h"
+#include "krm/messages/diag/data_item.h"
+#include "krm/messages/diag/memory.h"
+#include "krm/messages/diag/oscilloscope.h"
+#include "krm/messages/diag/oscilloscope_channel.h"
 #include "tests/messages/diag/display_fields.h"
 #include "tests/support/fields.h"
 

@@ -1,4 +1,7 @@
-#include "krm/messages/diag/oscilloscope_memory.h"
+#include "krm/messages/diag/data_item.h"
+#include "krm/messages/diag/memory.h"
+#include "krm/messages/diag/oscilloscope.h"
+#include "krm/messages/diag/oscilloscope_channel.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "krm/messages/diag/display.h"
-#include "krm/messages/diag/trouble_codes.h"
+#include "krm/messages/diag/freeze_frame_item.h"
 #include "tests/support/log_text.h"
 
 namespace krm::test {

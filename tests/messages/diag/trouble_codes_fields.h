@@ -4,6 +4,11 @@
 
 #include <tuple>
 
+#include "krm/messages/diag/data_monitor.h"
+#include "krm/messages/diag/event_records.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/messages/diag/freeze_frames.h"
+#include "krm/messages/diag/trouble_code.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "tests/messages/diag/display_fields.h"
 #include "tests/messages/diag/words_fields.h"

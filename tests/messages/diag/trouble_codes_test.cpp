@@ -6,6 +6,13 @@
 #include <string_view>
 #include <type_traits>
 
+#include "krm/messages/diag/data_monitor.h"
+#include "krm/messages/diag/display.h"
+#include "krm/messages/diag/event_records.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/messages/diag/freeze_frames.h"
+#include "krm/messages/diag/trouble_code.h"
+#include "krm/messages/diag/words.h"
 #include "tests/messages/diag/trouble_codes_fields.h"
 #include "tests/support/log_text.h"
 #include "tests/support/value_checks.h"

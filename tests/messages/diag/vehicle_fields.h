@@ -4,6 +4,7 @@
 
 #include <tuple>
 
+#include "krm/messages/diag/j2534_config.h"
 #include "krm/messages/diag/vehicle.h"
 #include "tests/messages/diag/trouble_codes_fields.h"
 #include "tests/messages/diag/words_fields.h"

@@ -4,6 +4,7 @@
 
 #include <type_traits>
 
+#include "krm/messages/diag/j2534_config.h"
 #include "tests/messages/diag/sample_records.h"
 #include "tests/messages/diag/vehicle_fields.h"
 #include "tests/support/class_checks.h"

@@ -4,6 +4,7 @@
 
 #include <tuple>
 
+#include "krm/messages/diag/translation.h"
 #include "krm/messages/diag/words.h"
 #include "tests/support/fields.h"
 

@@ -4,6 +4,7 @@
 
 #include <type_traits>
 
+#include "krm/messages/diag/translation.h"
 #include "tests/messages/diag/words_fields.h"
 #include "tests/support/log_text.h"
 #include "tests/support/value_checks.h"

@@ -1,0 +1,34 @@
+// The writing of single items of data.
+#ifndef KRM_MESSAGES_DIAG_DATA_ITEM_H_
+#define KRM_MESSAGES_DIAG_DATA_ITEM_H_
+
+#include "krm/core/list.h"
+#include "krm/core/types.h"
+#include "krm/framework/message.h"
+#include "krm/framework/record.h"
+
+/// A value to be written to an item.
+class KRM_API CKRMCCommandWriteData : public krm::RecordOf<CKRMCCommandWriteData> {
+public:
+    void Dump(const krm::RecordLines& line);
+
+    unsigned short m_ushId = 0;   ///< item ID
+    unsigned char m_uchType = 0;  ///< value type
+    krm_ulong m_ulData = 0;       ///< the value
+};
+extern template class CKRMList<CKRMCCommandWriteData>;
+
+/// WriteDataItem asks to write single items of an ECU.
+class KRM_API CKRMCWriteDataItemCmdAdaptDataSnd
+    : public krm::MessageOf<CKRMCWriteDataItemCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "WriteDataItem"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    CKRMList<CKRMCCommandWriteData> Data;  ///< items and their values
+};
+
+/// Answers that the items were written; has only what every answer has.
+class KRM_API CKRMCWriteDataItemCmdAdaptDataRcv
+    : public krm::MessageOf<CKRMCWriteDataItemCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "WriteDataItem"> {};
+
+#endif  // KRM_MESSAGES_DIAG_DATA_ITEM_H_

@@ -1,0 +1,59 @@
+// Reading and writing ECU memory.
+#ifndef KRM_MESSAGES_DIAG_MEMORY_H_
+#define KRM_MESSAGES_DIAG_MEMORY_H_
+
+#include "krm/core/list.h"
+#include "krm/core/types.h"
+#include "krm/framework/message.h"
+#include "krm/framework/record.h"
+#include "krm/platform/platform.h"
+
+/// One byte of ECU memory as it was read; each address has its own result.
+class KRM_API CKRMCCommandReadMemoryInfo : public krm::RecordOf<CKRMCCommandReadMemoryInfo> {
+public:
+    void Dump(const krm::RecordLines& line);
+
+    krm_ulong m_ulAddress = 0;
+    unsigned char m_uchData = 0;  ///< the byte
+    krm_ulong m_ulErrorCode = 0;  ///< result of the read
+};
+extern template class CKRMList<CKRMCCommandReadMemoryInfo>;
+
+/// ReadMemory asks for the bytes at these addresses.
+class KRM_API CKRMCReadMemoryCmdAdaptDataSnd
+    : public krm::MessageOf<CKRMCReadMemoryCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "ReadMemory"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    CKRMList<krm_ulong> m_ulAddressList;  ///< one address per byte
+};
+
+/// Answers with a record per address.
+class KRM_API CKRMCReadMemoryCmdAdaptDataRcv
+    : public krm::MessageOf<CKRMCReadMemoryCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "ReadMemory"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    CKRMList<CKRMCCommandReadMemoryInfo> m_cReadMemoryInfoList;
+};
+
+/// WriteMemory asks to write one byte.
+class KRM_API CKRMCWriteMemoryCmdAdaptDataSnd
+    : public krm::MessageOf<CKRMCWriteMemoryCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "WriteMemory"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    krm_ulong m_ulAddress = 0;
+    unsigned char m_uchData = 0;  ///< the byte
+};
+
+/// Answers with the result.
+class KRM_API CKRMCWriteMemoryCmdAdaptDataRcv
+    : public krm::MessageOf<CKRMCWriteMemoryCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "WriteMemory"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    krm_ulong m_ulErrorCode = 0;  ///< result of the write
+};
+
+#endif  // KRM_MESSAGES_DIAG_MEMORY_H_

@@ -1,0 +1,61 @@
+// The oscilloscope: voltage ranges, time bases and channels.
+//
+// What channel, range and time IDs mean is the engine's.
+#ifndef KRM_MESSAGES_DIAG_OSCILLOSCOPE_H_
+#define KRM_MESSAGES_DIAG_OSCILLOSCOPE_H_
+
+#include "krm/core/list.h"
+#include "krm/core/types.h"
+#include "krm/framework/message.h"
+#include "krm/framework/record.h"
+#include "krm/messages/diag/display.h"
+#include "krm/platform/platform.h"
+
+/// A voltage range of the oscilloscope: unit, conversion and resolution of its values.
+class KRM_API CKRMCCommandOscData : public krm::RecordOf<CKRMCCommandOscData> {
+public:
+    void Dump(const krm::RecordLines& line);
+
+    krm_ulong m_ulVolId = 0;       ///< voltage range ID; the first member, though logged after the decimal places
+    krm_ulong m_ulUnitPhysId = 0;  ///< words ID of the physical unit
+    CKRMString m_strUnitPhys;
+    krm_ulong m_ulUnitId = 0;  ///< words ID of the display unit
+    CKRMString m_strUnit;
+    krm_ulong m_ulOscReserved = 0;                ///< stored and copied, never logged
+    unsigned char m_uchDataType = 0;              ///< data type of the value, as the converters take it
+    unsigned char m_uchDecPntCount = 0;           ///< decimal places of the value
+    unsigned char m_uchUnitConvDecPntCount = 0;   ///< decimal places after unit conversion
+    CKRMCCommandConversionData m_cConversionTbl;  ///< conversion rule
+    CKRMCCommandDispData m_cResolutionData;       ///< resolution as a display value
+};
+extern template class CKRMList<CKRMCCommandOscData>;
+
+/// A time base of the oscilloscope.
+class KRM_API CKRMCCommandOscTimeInfo : public krm::RecordOf<CKRMCCommandOscTimeInfo> {
+public:
+    void Dump(const krm::RecordLines& line);
+
+    unsigned short m_ushTimeId = 0;  ///< time base ID
+    krm_ulong m_ulSamplingHz = 0;    ///< sampling rate in hertz
+    krm_ulong m_ulRecordTime = 0;    ///< recording time; its unit is the engine's
+    bool m_bSyncFlag = false;        ///< synchronised sampling
+};
+extern template class CKRMList<CKRMCCommandOscTimeInfo>;
+
+/// GetOscilloscopeList asks what the oscilloscope offers.
+class KRM_API CKRMCGetOscilloscopeListCmdAdaptDataSnd
+    : public krm::MessageOf<CKRMCGetOscilloscopeListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetOscilloscopeList"> {
+};
+
+/// Answers with channels, voltage ranges and time bases.
+class KRM_API CKRMCGetOscilloscopeListCmdAdaptDataRcv
+    : public krm::MessageOf<CKRMCGetOscilloscopeListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetOscilloscopeList"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    CKRMList<unsigned short> m_ushChList;           ///< channel IDs
+    CKRMList<CKRMCCommandOscData> m_cVolList;       ///< voltage ranges
+    CKRMList<CKRMCCommandOscTimeInfo> m_cTimeList;  ///< time bases
+};
+
+#endif  // KRM_MESSAGES_DIAG_OSCILLOSCOPE_H_

@@ -1,0 +1,58 @@
+// Special operation control records and their groups.
+#ifndef KRM_MESSAGES_DIAG_SPECIAL_OPERATION_H_
+#define KRM_MESSAGES_DIAG_SPECIAL_OPERATION_H_
+
+#include "krm/core/list.h"
+#include "krm/core/types.h"
+#include "krm/framework/message.h"
+#include "krm/messages/diag/freeze_frame_item.h"
+#include "krm/platform/platform.h"
+
+/// A group of special operation control records.
+class KRM_API CKRMCSpGroup {
+public:
+    /// Restores the values of a new object.
+    void Clear() { *this = CKRMCSpGroup(); }
+
+    unsigned short m_ushGroupId = 0;  ///< group ID
+    krm_ulong m_ulGroupNameId = 0;    ///< words ID of the group's name
+    CKRMString m_strGroupName;        ///< the group's name
+};
+extern template class CKRMList<CKRMCSpGroup>;
+
+/// GetSpOperateCtrlRecordGroup asks for the groups of special operation control records.
+class KRM_API CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataSnd
+    : public krm::MessageOf<CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
+                            "GetSpOperateCtrlRecordGroup"> {};
+
+/// Answers with the groups.
+class KRM_API CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataRcv
+    : public krm::MessageOf<CKRMCGetSpOperateCtrlRecordGroupCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
+                            "GetSpOperateCtrlRecordGroup"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    CKRMList<CKRMCSpGroup> Data;  ///< groups
+};
+
+/// GetSpOperateCtrlRecord asks for the special operation control records of a group.
+class KRM_API CKRMCGetSpOperateCtrlRecordCmdAdaptDataSnd
+    : public krm::MessageOf<CKRMCGetSpOperateCtrlRecordCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
+                            "GetSpOperateCtrlRecord"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    unsigned short m_ushGroupId = 0;  ///< group ID
+};
+
+/// Answers with the records; each is a value like a freeze frame's.
+class KRM_API CKRMCGetSpOperateCtrlRecordCmdAdaptDataRcv
+    : public krm::MessageOf<CKRMCGetSpOperateCtrlRecordCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
+                            "GetSpOperateCtrlRecord"> {
+public:
+    void Dump(const krm::MessageLines& line);
+
+    CKRMList<CKRMCCommandFFDData> m_cSpOperateList;  ///< records
+};
+
+#endif  // KRM_MESSAGES_DIAG_SPECIAL_OPERATION_H_
