@@ -1,6 +1,6 @@
 // CKRMBinary: a byte block of fixed size with one cursor, to write raw data in one after the other and to read it out.
 //
-// No record or message holds one.
+// No record or message holds one. Its layout is in docs/interface.md.
 #ifndef KRM_CORE_BINARY_H_
 #define KRM_CORE_BINARY_H_
 

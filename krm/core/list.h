@@ -4,7 +4,7 @@
 // program of your own a standard container serves better.
 //
 // The library instantiates the list once for each of its record classes, beside the class, and the platform library for
-// numbers; for other types it works as any template does.
+// numbers; for other types it works as any template does. Layout and slots are in docs/interface.md.
 #ifndef KRM_CORE_LIST_H_
 #define KRM_CORE_LIST_H_
 
@@ -35,11 +35,13 @@ struct ListNode {
     ListNode() : element() {}
     explicit ListNode(const T& original) : element(original) {}
 
-    T element;
-    ListNode* next = nullptr;
-    ListNode* prev = nullptr;
+    T element;                 ///< first, so that the node's address is its own
+    ListNode* next = nullptr;  ///< null at the tail
+    ListNode* prev = nullptr;  ///< null at the head
 
+    /// The node that a position names.
     static ListNode* Of(_SKRMPOSITION* position) { return reinterpret_cast<ListNode*>(position); }
+    /// The position that names a node.
     static _SKRMPOSITION* ToPosition(ListNode* node) { return reinterpret_cast<_SKRMPOSITION*>(node); }
 };
 
@@ -91,15 +93,24 @@ public:
     KRM_TEMPLATE_MEMBER _SKRMPOSITION* GetTailPosition() const;
 
     // Each of these yields the element at `position`, then moves the position on: GetNext* towards the tail, GetPrev*
-    // towards the head, to null after the last. On a const list GetNext and GetPrev return a copy.
+    // towards the head, to null after the last.
     // REQUIRES: `position` is not null and names an element of this list.
+
+    /// A copy of the element at `position`, which moves on to the next element or to null.
     KRM_TEMPLATE_MEMBER T GetNext(_SKRMPOSITION*& position) const;
+    /// The element at `position` itself, which moves on to the next element or to null.
     KRM_TEMPLATE_MEMBER T& GetNext(_SKRMPOSITION*& position);
+    /// The element at `position`, never null and not const; the position moves on as GetNext's does.
     KRM_TEMPLATE_MEMBER T* GetNextPtr(_SKRMPOSITION*& position) const;
+    /// The element at `position`, never null; the position moves on as GetNext's does.
     KRM_TEMPLATE_MEMBER T* GetNextPtr(_SKRMPOSITION*& position);
+    /// A copy of the element at `position`, which moves back to the previous element or to null.
     KRM_TEMPLATE_MEMBER T GetPrev(_SKRMPOSITION*& position) const;
+    /// The element at `position` itself, which moves back to the previous element or to null.
     KRM_TEMPLATE_MEMBER T& GetPrev(_SKRMPOSITION*& position);
+    /// The element at `position`, never null and not const; the position moves back as GetPrev's does.
     KRM_TEMPLATE_MEMBER T* GetPrevPtr(_SKRMPOSITION*& position) const;
+    /// The element at `position`, never null; the position moves back as GetPrev's does.
     KRM_TEMPLATE_MEMBER T* GetPrevPtr(_SKRMPOSITION*& position);
 
     /// The element at `index`; every index below 1 means the first. Linear in the index.
@@ -132,20 +143,27 @@ public:
     using pointer = Element*;
     using reference = Element&;
 
+    /// The end of every list.
     CKRMListIterator() = default;
+    /// At `position`; null is the end.
     explicit CKRMListIterator(_SKRMPOSITION* position) : m_position(position) {}
 
+    /// The element. REQUIRES: this is not the end.
     reference operator*() const { return Node::Of(m_position)->element; }
+    /// The element's members. REQUIRES: this is not the end.
     pointer operator->() const { return &**this; }
+    /// Moves on to the next element, or to the end. REQUIRES: this is not the end.
     CKRMListIterator& operator++() {
         m_position = Node::ToPosition(Node::Of(m_position)->next);
         return *this;
     }
+    /// The same; returns where the iterator stood.
     CKRMListIterator operator++(int) {
         CKRMListIterator before = *this;
         ++*this;
         return before;
     }
+    /// Whether both stand on the same element, or both at the end.
     friend bool operator==(CKRMListIterator left, CKRMListIterator right) {
         return left.m_position == right.m_position;
     }
@@ -157,18 +175,23 @@ private:
 };
 
 // Free functions, because the list's member set is part of the interface.
+
+/// The first element, for range-for; equal to end() when the list is empty.
 template <class T>
 CKRMListIterator<T> begin(CKRMList<T>& list) {
     return CKRMListIterator<T>(list.GetHeadPosition());
 }
+/// Behind the last element, for range-for.
 template <class T>
 CKRMListIterator<T> end(CKRMList<T>&) {
     return CKRMListIterator<T>();
 }
+/// The first element of a const list.
 template <class T>
 CKRMListIterator<const T> begin(const CKRMList<T>& list) {
     return CKRMListIterator<const T>(list.GetHeadPosition());
 }
+/// Behind the last element of a const list.
 template <class T>
 CKRMListIterator<const T> end(const CKRMList<T>&) {
     return CKRMListIterator<const T>();

@@ -1,6 +1,7 @@
 // Integer types and export marks that every header of the library shares.
 //
-// krm/core/ is the ground floor, the types, CKRMList and CKRMBinary: it includes nothing of the other folders.
+// krm/core/ is the ground floor: these types, CKRMList (list.h) and CKRMBinary (binary.h). It includes nothing of the
+// other folders.
 #ifndef KRM_CORE_TYPES_H_
 #define KRM_CORE_TYPES_H_
 
@@ -14,8 +15,8 @@
 #include <cstdint>
 
 /// Unsigned 32-bit number of the interface. It is `unsigned long` wherever that has 32 bits (Windows, 32-bit Linux), so
-/// that the interface there is exactly the documented one, and `std::uint32_t` elsewhere, so that a 64-bit build stores
-/// and wraps the same values.
+/// that the interface there is exactly the documented one (docs/interface.md), and `std::uint32_t` elsewhere, so that a
+/// 64-bit build stores and wraps the same values.
 /// `krm_long` is its signed twin: `long`, or `std::int32_t` where `long` is wider.
 #if ULONG_MAX == 0xFFFFFFFFUL
 using krm_ulong = unsigned long;

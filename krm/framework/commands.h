@@ -21,9 +21,9 @@ enum class CommandFamily : krm_ulong {
 
 /// One command of the exchange. Its send and its receive message both carry the type and the ID.
 struct Command {
-    CommandFamily family;
-    krm_ulong id;      ///< unique within the family; gaps are commands without messages
-    const char* name;  ///< as in the names of its classes: "GetDTC" of `CKRMCGetDTCCmdAdaptDataSnd`
+    CommandFamily family;  ///< whose command type its messages carry
+    krm_ulong id;          ///< unique within the family; gaps are commands without messages
+    const char* name;      ///< as in the names of its classes: "GetDTC" of `CKRMCGetDTCCmdAdaptDataSnd`
 };
 
 /// All commands, by family and ID. Walk it to list or name commands in a log or a tool.
@@ -128,7 +128,9 @@ consteval krm_ulong CommandId(CommandFamily family, std::string_view name) {
 /// `krm::CommandName("ReadPaintCode", 900)`.
 template <std::size_t Size>
 struct CommandName {
+    /// A command of the table.
     consteval CommandName(const char (&text)[Size]) : name(text) {}  // NOLINT: a literal converts by itself
+    /// A command of a user's own.
     consteval CommandName(const char (&text)[Size], krm_ulong ownId) : name(text), own(true), id(ownId) {}
 
     /// The command's ID in `family`. A name without an ID that is not in the table doesn't compile, nor does an ID of
@@ -145,9 +147,9 @@ struct CommandName {
         return id;
     }
 
-    Literal<Size> name;
-    bool own = false;
-    krm_ulong id = 0;  ///< of a user's own command
+    Literal<Size> name;  ///< as in the names of the command's classes
+    bool own = false;    ///< not of the table
+    krm_ulong id = 0;    ///< of a user's own command
 };
 
 /// The command with this type and ID, or null where there is none.

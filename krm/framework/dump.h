@@ -28,8 +28,16 @@
 namespace krm {
 
 /// What a field is to the log.
-enum class FieldKind { Number, Real, Text, Record, RecordList, NumberList };
+enum class FieldKind {
+    Number,      ///< an integer of up to 32 bits, or a bool: %d, %u or %X
+    Real,        ///< a double: %lf
+    Text,        ///< a CKRMString: %s
+    Record,      ///< an embedded record: writes its own lines
+    RecordList,  ///< a list of records: each writes its own lines
+    NumberList   ///< a list of numbers: a line each
+};
 
+/// The element type of a list; void for what is no list.
 template <class T>
 struct ListElement {
     using Type = void;
@@ -39,8 +47,10 @@ struct ListElement<CKRMList<T>> {
     using Type = T;
 };
 
+/// A number that the log can show.
 template <class T>
 concept IsNumber = std::is_integral_v<T> && sizeof(T) <= 4;
+/// A record that can dump itself.
 template <class T>
 concept IsRecord = std::is_base_of_v<CKRMCBaseAdaptDataStructure, T>;
 
@@ -81,6 +91,7 @@ constexpr void SkipPrefix(std::string_view& text) {
     }
 }
 
+/// Takes all up to the next index, "[%d]" or "[%u]", off the front of `text`.
 constexpr void SkipIndex(std::string_view& text) {
     const std::size_t percent = text.find('%');
     if (percent == std::string_view::npos || percent == 0 || text[percent - 1] != '[' ||
@@ -90,6 +101,7 @@ constexpr void SkipIndex(std::string_view& text) {
     text.remove_prefix(percent + 3);
 }
 
+/// Takes all up to the next conversion, which must fit `kind`, off the front of `text`.
 constexpr void SkipValue(std::string_view& text, FieldKind kind) {
     std::size_t letter = text.find('%');
     if (letter == std::string_view::npos || letter == 0 || text[letter - 1] == '[') {
@@ -140,10 +152,12 @@ constexpr void CheckLine(std::string_view text, int indices, const FieldKind* ki
 template <int Depth, class... Fields>
 class LineFormat {
 public:
+    /// The literal, checked.
     consteval LineFormat(const char* literal) : m_literal(literal) {  // NOLINT: a literal converts by itself
         constexpr std::array<FieldKind, sizeof...(Fields)> kinds{KindOf<Fields>()...};
         CheckLine(literal, Depth, kinds.data(), kinds.size());
     }
+    /// The literal, with a NUL behind it.
     constexpr const char* Text() const { return m_literal; }
 
 private:
@@ -156,9 +170,11 @@ auto Passed(Number value) {
     return static_cast<std::conditional_t<std::is_signed_v<Number> || std::is_same_v<Number, bool>, int, unsigned>>(
         value);
 }
+/// A double goes as it is.
 inline double Passed(double value) {
     return value;
 }
+/// A text goes as its characters, valid as long as `text`.
 inline const char* Passed(const CKRMString& text) {
     return text.GetText();
 }

@@ -10,18 +10,21 @@ namespace krm {
 /// A text literal that can be a template argument: `template <krm::Literal name> ...`. `Size` counts its NUL.
 template <std::size_t Size>
 struct Literal {
+    /// The text of a literal.
     consteval Literal(const char (&text)[Size]) {  // NOLINT: a literal converts by itself
         for (std::size_t i = 0; i < Size; ++i) {
             characters[i] = text[i];
         }
     }
+    /// NULs only, to be filled.
     constexpr Literal() = default;
 
     /// The text, with a NUL behind it.
     constexpr const char* Text() const { return characters; }
+    /// The text without its NUL.
     constexpr std::string_view View() const { return {characters, Size - 1}; }
 
-    char characters[Size]{};
+    char characters[Size]{};  ///< public, as a template argument must be
 };
 
 /// The texts one behind the other.

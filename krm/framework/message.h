@@ -1,5 +1,5 @@
 // The bases of all messages: five families, each with a base for requests (Snd) and one for answers (Rcv), and the layer
-// that gives every message its regular operations.
+// that gives every message its regular operations. What krm/framework/ is, and what it may include, says record.h.
 #ifndef KRM_FRAMEWORK_MESSAGE_H_
 #define KRM_FRAMEWORK_MESSAGE_H_
 
@@ -19,7 +19,10 @@ class DumpLines;
 using MessageLines = DumpLines<LoggedMessage, 0>;
 
 /// Whether a message asks or answers. Type and ID don't tell: a request and its answer have the same.
-enum class Direction { Send, Receive };
+enum class Direction {
+    Send,    ///< a request, `...Snd`
+    Receive  ///< an answer, `...Rcv`
+};
 
 /// What the families with a dump add to the imported base: two virtual operations, behind destructor and Clear. The viewer
 /// family has neither.
@@ -38,15 +41,18 @@ protected:
 };
 
 /// What a family's base does when it is constructed, before its command type is set.
-enum class Start { Cleared, AsImported };
+enum class Start {
+    Cleared,    ///< calls the imported base's Clear
+    AsImported  ///< leaves the imported base as its own constructor left it
+};
 
 /// The regular operations of a family's base, written once. `word` stands in the names of all its classes. Adds no data
 /// member and no virtual operation.
 template <CommandFamily family, Literal word, class Imported, Start start = Start::Cleared>
 class FamilyOf : public Imported {
 public:
-    static constexpr CommandFamily kFamily = family;
-    static constexpr Literal kFamilyWord = word;
+    static constexpr CommandFamily kFamily = family;  ///< the command type of all the family's messages
+    static constexpr Literal kFamilyWord = word;      ///< "Cmd" and so on, as its class names have it
 
     /// The family's type, and what the imported base has for an ID when it is new.
     FamilyOf() {
@@ -74,6 +80,7 @@ class LoggedFamilyOf : public FamilyOf<family, word, LoggedMessage, start> {
 public:
     using FamilyOf<family, word, LoggedMessage, start>::FamilyOf;
 
+    /// Writes type and ID; the lines of the classes below follow. Returns 0.
     krm_long ErrWriteOperationLog() override {
         static constexpr auto kLogName = Joined<"CKRMCBase", word, "AdaptData::ErrWriteOperationLog">();
         this->DumpTypeAndId(kLogName.Text());
@@ -86,140 +93,148 @@ public:
 // Each base can be constructed from nothing, or from a command ID, which it then has. Its Clear resets the imported base,
 // sets the family's command type and resets the own member; an ID of its own has only a message.
 //
-// The order of the virtual operations is part of the interface: destructor, Clear, ErrWriteOperationLog,
-// ER_WriteOperationLogFormat. The viewer family has the first two only.
+// The order of the virtual operations is part of the interface (docs/interface.md): destructor, Clear,
+// ErrWriteOperationLog, ER_WriteOperationLogFormat. The viewer family has the first two only.
 
-/// Base of the diagnostic commands messages.
+/// Base of the diagnostic commands' messages: command type 1.
 class KRM_API CKRMCBaseCmdAdaptData : public krm::LoggedFamilyOf<krm::CommandFamily::Diagnostic, "Cmd"> {
 public:
     using LoggedFamilyOf::LoggedFamilyOf;
 };
 
-/// Base of that family's requests.
+/// Base of the diagnostic commands' requests.
 class KRM_API CKRMCBaseCmdAdaptDataSnd : public CKRMCBaseCmdAdaptData {
 public:
-    using DirectionBase = CKRMCBaseCmdAdaptDataSnd;
-    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using DirectionBase = CKRMCBaseCmdAdaptDataSnd;                     ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Send;  ///< its messages ask
     using CKRMCBaseCmdAdaptData::CKRMCBaseCmdAdaptData;
 
+    /// As the family's base, and the ECU is 0.
     void Clear() override;
+    /// Writes the family's lines, then the ECU. Returns 0.
     krm_long ErrWriteOperationLog() override;
 
     /// The ECU that the request is for.
     krm_ulong m_ulEcuId = 0;
 };
 
-/// Base of that family's answers.
+/// Base of the diagnostic commands' answers.
 class KRM_API CKRMCBaseCmdAdaptDataRcv : public CKRMCBaseCmdAdaptData {
 public:
-    using DirectionBase = CKRMCBaseCmdAdaptDataRcv;
-    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using DirectionBase = CKRMCBaseCmdAdaptDataRcv;  ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;  ///< its messages answer
     using CKRMCBaseCmdAdaptData::CKRMCBaseCmdAdaptData;
 
+    /// As the family's base, and the command counts as supported.
     void Clear() override;
+    /// Writes the family's lines, then the flag. Returns 0.
     krm_long ErrWriteOperationLog() override;
 
-    /// The engine doesn't support the command.
+    /// The engine says that it doesn't support the command.
     bool m_bNotSupport = false;
 };
 
-/// Base of the viewer data control messages.
+/// Base of the viewer data control messages: command type 2. They have no dump.
 class KRM_API CKRMCBaseVdcAdaptData : public krm::FamilyOf<krm::CommandFamily::Viewer, "Vdc", CKRMBaseAdaptationData> {
 public:
     using FamilyOf::FamilyOf;
 };
 
-/// Base of that family's requests.
+/// Base of the viewer data control family's requests.
 class KRM_API CKRMCBaseVdcAdaptDataSnd : public CKRMCBaseVdcAdaptData {
 public:
-    using DirectionBase = CKRMCBaseVdcAdaptDataSnd;
-    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using DirectionBase = CKRMCBaseVdcAdaptDataSnd;                     ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Send;  ///< its messages ask
     using CKRMCBaseVdcAdaptData::CKRMCBaseVdcAdaptData;
 
+    /// As the family's base, and the number is 0.
     void Clear() override;
 
     /// A number of the viewer's; the library only resets and copies it.
     krm_ulong m_ulVdcSndValue = 0;
 };
 
-/// Base of that family's answers.
+/// Base of the viewer data control family's answers.
 class KRM_API CKRMCBaseVdcAdaptDataRcv : public CKRMCBaseVdcAdaptData {
 public:
-    using DirectionBase = CKRMCBaseVdcAdaptDataRcv;
-    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using DirectionBase = CKRMCBaseVdcAdaptDataRcv;  ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;  ///< its messages answer
     using CKRMCBaseVdcAdaptData::CKRMCBaseVdcAdaptData;
 };
 
-/// Base of the stored-data import messages.
+/// Base of the stored-data import messages: command type 8. The messages themselves write nothing into the log.
 class KRM_API CKRMCBaseDsdiAdaptData : public krm::LoggedFamilyOf<krm::CommandFamily::StoredDataImport, "Dsdi"> {
 public:
     using LoggedFamilyOf::LoggedFamilyOf;
 };
 
-/// Base of that family's requests.
+/// Base of the stored-data import family's requests.
 class KRM_API CKRMCBaseDsdiAdaptDataSnd : public CKRMCBaseDsdiAdaptData {
 public:
-    using DirectionBase = CKRMCBaseDsdiAdaptDataSnd;
-    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using DirectionBase = CKRMCBaseDsdiAdaptDataSnd;                    ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Send;  ///< its messages ask
     using CKRMCBaseDsdiAdaptData::CKRMCBaseDsdiAdaptData;
 
+    /// As the family's base, and the ECU is 0.
     void Clear() override;
+    /// Writes the family's lines, then the ECU. Returns 0.
     krm_long ErrWriteOperationLog() override;
 
     /// The ECU that the request is for.
     krm_ulong m_ulEcuId = 0;
 };
 
-/// Base of that family's answers.
+/// Base of the stored-data import family's answers.
 class KRM_API CKRMCBaseDsdiAdaptDataRcv : public CKRMCBaseDsdiAdaptData {
 public:
-    using DirectionBase = CKRMCBaseDsdiAdaptDataRcv;
-    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using DirectionBase = CKRMCBaseDsdiAdaptDataRcv;  ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;  ///< its messages answer
     using CKRMCBaseDsdiAdaptData::CKRMCBaseDsdiAdaptData;
 };
 
-/// Base of the unit conversion messages.
+/// Base of the unit conversion messages: command type 10.
 class KRM_API CKRMCBaseUccAdaptData : public krm::LoggedFamilyOf<krm::CommandFamily::UnitConversion, "Ucc"> {
 public:
     using LoggedFamilyOf::LoggedFamilyOf;
 };
 
-/// Base of that family's requests.
+/// Base of the unit conversion family's requests.
 class KRM_API CKRMCBaseUccAdaptDataSnd : public CKRMCBaseUccAdaptData {
 public:
-    using DirectionBase = CKRMCBaseUccAdaptDataSnd;
-    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using DirectionBase = CKRMCBaseUccAdaptDataSnd;                     ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Send;  ///< its messages ask
     using CKRMCBaseUccAdaptData::CKRMCBaseUccAdaptData;
 };
 
-/// Base of that family's answers.
+/// Base of the unit conversion family's answers.
 class KRM_API CKRMCBaseUccAdaptDataRcv : public CKRMCBaseUccAdaptData {
 public:
-    using DirectionBase = CKRMCBaseUccAdaptDataRcv;
-    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using DirectionBase = CKRMCBaseUccAdaptDataRcv;  ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;  ///< its messages answer
     using CKRMCBaseUccAdaptData::CKRMCBaseUccAdaptData;
 };
 
-/// Base of the words table messages. It alone starts without a Clear: with the imported base's own state, and the type.
+/// Base of the words table messages: command type 14. It alone starts without a Clear: with the imported base's own
+/// state, and the type.
 class KRM_API CKRMCBaseDwtAdaptData
     : public krm::LoggedFamilyOf<krm::CommandFamily::WordsTable, "Dwt", krm::Start::AsImported> {
 public:
     using LoggedFamilyOf::LoggedFamilyOf;
 };
 
-/// Base of that family's requests.
+/// Base of the words table family's requests.
 class KRM_API CKRMCBaseDwtAdaptDataSnd : public CKRMCBaseDwtAdaptData {
 public:
-    using DirectionBase = CKRMCBaseDwtAdaptDataSnd;
-    static constexpr krm::Direction kDirection = krm::Direction::Send;
+    using DirectionBase = CKRMCBaseDwtAdaptDataSnd;                     ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Send;  ///< its messages ask
     using CKRMCBaseDwtAdaptData::CKRMCBaseDwtAdaptData;
 };
 
-/// Base of that family's answers.
+/// Base of the words table family's answers.
 class KRM_API CKRMCBaseDwtAdaptDataRcv : public CKRMCBaseDwtAdaptData {
 public:
-    using DirectionBase = CKRMCBaseDwtAdaptDataRcv;
-    static constexpr krm::Direction kDirection = krm::Direction::Receive;
+    using DirectionBase = CKRMCBaseDwtAdaptDataRcv;  ///< this class, as a message's own name for it
+    static constexpr krm::Direction kDirection = krm::Direction::Receive;  ///< its messages answer
     using CKRMCBaseDwtAdaptData::CKRMCBaseDwtAdaptData;
 };
 
@@ -231,6 +246,7 @@ class DumpOf : public Base {
 public:
     using Base::Base;
 
+    /// Writes the bases' lines, then the message's own. Returns 0.
     krm_long ErrWriteOperationLog() override {
         Base::ErrWriteOperationLog();
         if constexpr (requires(Message & message, const MessageLines& line) { message.Dump(line); }) {
@@ -290,6 +306,7 @@ const Message* MessageAs(const CKRMBaseAdaptationData* message) {
     }
     return static_cast<const Message*>(message);
 }
+/// The same for a message that may be changed.
 template <class Message>
 Message* MessageAs(CKRMBaseAdaptationData* message) {
     return const_cast<Message*>(MessageAs<Message>(static_cast<const CKRMBaseAdaptationData*>(message)));

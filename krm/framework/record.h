@@ -1,4 +1,7 @@
 // The base of every record that can dump itself, and the layer that gives all of them their regular operations.
+//
+// krm/framework/ has what records and messages are made of: this base, the messages' bases (message.h), the table of
+// commands (commands.h) and the dump (dump.h). It includes krm/core/ and the platform.
 #ifndef KRM_FRAMEWORK_RECORD_H_
 #define KRM_FRAMEWORK_RECORD_H_
 
@@ -22,15 +25,17 @@ using RecordLines = DumpLines<CKRMCBaseAdaptDataStructure, 0>;
 /// Base of every record that has a dump. Records are plain values: created by default or by copy, changed through their
 /// fields, reset by Clear.
 ///
-/// The order of the virtual operations is part of the interface.
+/// The order of the virtual operations is part of the interface (docs/interface.md).
 class KRM_API CKRMCBaseAdaptDataStructure {
 public:
+    /// The base has no data: there is nothing to set or to copy.
     CKRMCBaseAdaptDataStructure() = default;
-    CKRMCBaseAdaptDataStructure(const CKRMCBaseAdaptDataStructure&) = default;
-    CKRMCBaseAdaptDataStructure& operator=(const CKRMCBaseAdaptDataStructure&) = default;
+    CKRMCBaseAdaptDataStructure(const CKRMCBaseAdaptDataStructure&) = default;             ///< copies nothing
+    CKRMCBaseAdaptDataStructure& operator=(const CKRMCBaseAdaptDataStructure&) = default;  ///< copies nothing
+    /// For deleting a record through its base.
     virtual ~CKRMCBaseAdaptDataStructure();
 
-    /// Restores the values that the default constructor sets.
+    /// Restores the values that the default constructor sets; in this base nothing.
     virtual void Clear();
 
     /// Writes the record to the operation log, one line per field. `format` and its arguments, as for printf, make the
@@ -57,8 +62,10 @@ namespace krm {
 template <class Record>
 class RecordOf : public CKRMCBaseAdaptDataStructure {
 public:
+    /// Assigns a new record: every field as the constructor sets it.
     void Clear() override { static_cast<Record&>(*this) = Record(); }
 
+    /// Calls the record's Dump under the prefix that `format` and its arguments make. Returns 0.
     krm_long ErrWriteOperationLogStructure(const char* format, ...) override KRM_PRINTF_LIKE(2, 3) {
         std::va_list arguments;
         va_start(arguments, format);
@@ -70,6 +77,7 @@ public:
     }
 };
 
+/// A record made as a copy can't be told from a new one that was assigned to.
 template <class Record>
 requires std::is_base_of_v<RecordOf<Record>, Record>
 inline constexpr bool kCopiedInOneStep<Record> = true;

@@ -1,4 +1,7 @@
 // Every message class, and a message made from its type, its ID and its direction.
+//
+// krm/messages/ has the messages and the records that they carry, a header for each function area: diag/ those of the
+// diagnostic commands, auxiliary/ those of the other families. It includes krm/core/, krm/framework/ and the platform.
 #ifndef KRM_MESSAGES_ALL_MESSAGES_H_
 #define KRM_MESSAGES_ALL_MESSAGES_H_
 
@@ -30,7 +33,7 @@
 
 namespace krm {
 
-/// Classes, for what is to be done with each of them.
+/// A list of classes, for what is to be done with each of them.
 template <class... Classes>
 struct ClassList {};
 

@@ -7,11 +7,11 @@
 namespace krm::tree {
 
 // Types of values, as CKRMCAttribute::GetValueType gives them and descriptions print them.
-inline constexpr krm_ulong kEmptyValue = 0;
-inline constexpr krm_ulong kStringValue = 1;
-inline constexpr krm_ulong kDoubleValue = 2;
-inline constexpr krm_ulong kLongValue = 3;
-inline constexpr krm_ulong kULongValue = 4;
+inline constexpr krm_ulong kEmptyValue = 0;   ///< no value
+inline constexpr krm_ulong kStringValue = 1;  ///< a text
+inline constexpr krm_ulong kDoubleValue = 2;  ///< a double
+inline constexpr krm_ulong kLongValue = 3;    ///< a signed 32-bit number
+inline constexpr krm_ulong kULongValue = 4;   ///< an unsigned 32-bit number
 
 }  // namespace krm::tree
 
@@ -27,13 +27,13 @@ class KRM_API CKRMCAttribute : public CKRMCNode {
 public:
     // A null name gives an empty one. A value that can't be set (out of memory, or a null text) leaves the attribute
     // empty; nothing reports it but GetValueType().
-    explicit CKRMCAttribute(const char* name);
-    CKRMCAttribute(const char* name, const char* value);
-    CKRMCAttribute(const char* name, double value);
-    CKRMCAttribute(const char* name, krm_long value);
-    CKRMCAttribute(const char* name, krm_ulong value);
-    CKRMCAttribute(const CKRMCAttribute&) = default;             // member-wise: shares the value
-    CKRMCAttribute& operator=(const CKRMCAttribute&) = default;  // member-wise: the value held before is not freed
+    explicit CKRMCAttribute(const char* name);                   ///< empty
+    CKRMCAttribute(const char* name, const char* value);         ///< with a copy of the text
+    CKRMCAttribute(const char* name, double value);              ///< with a double
+    CKRMCAttribute(const char* name, krm_long value);            ///< with a signed number
+    CKRMCAttribute(const char* name, krm_ulong value);           ///< with an unsigned number
+    CKRMCAttribute(const CKRMCAttribute&) = default;             ///< member-wise: shares the value
+    CKRMCAttribute& operator=(const CKRMCAttribute&) = default;  ///< member-wise: the value held before is not freed
     /// Frees the value, then destroys the following siblings.
     ~CKRMCAttribute() override;
 
@@ -48,23 +48,23 @@ public:
     virtual bool CompareValue(CKRMError* error, CKRMCAttribute* other);
     // Each sets value and type. False when memory is short (kOutOfMemory), which leaves the attribute empty, or for a
     // null `text` (kNullArgument), which leaves it as it was. A text is copied; it may be this attribute's own.
-    virtual bool SetValue(CKRMError* error, krm_ulong value);
-    virtual bool SetValue(CKRMError* error, krm_long value);
-    virtual bool SetValue(CKRMError* error, double value);
-    virtual bool SetValue(CKRMError* error, const char* text);
+    virtual bool SetValue(CKRMError* error, krm_ulong value);   ///< to an unsigned number
+    virtual bool SetValue(CKRMError* error, krm_long value);    ///< to a signed number
+    virtual bool SetValue(CKRMError* error, double value);      ///< to a double
+    virtual bool SetValue(CKRMError* error, const char* text);  ///< to a copy of the text
 
     /// The type of the value: krm::tree::kStringValue and so on, kEmptyValue while there is none.
     krm_ulong GetValueType() const { return m_ulValueType; }
     /// The text, valid until the value changes; null unless the value is a text.
     const char* GetString() const;
     // The number; 0 unless the value has that very type.
-    double GetDouble() const;
-    krm_long GetLong() const;
-    krm_ulong GetULong() const;
+    double GetDouble() const;    ///< of kDoubleValue
+    krm_long GetLong() const;    ///< of kLongValue
+    krm_ulong GetULong() const;  ///< of kULongValue
 
 protected:
-    krm_ulong m_ulValueType;
-    // Owned: a CKRMString from `new` for a text, else plain memory from `operator new`; null while empty.
+    krm_ulong m_ulValueType;  ///< krm::tree::kEmptyValue and so on
+    /// Owned: a CKRMString from `new` for a text, else plain memory from `operator new`; null while empty.
     void* m_pValue;
 
 private:

@@ -29,8 +29,8 @@ class KRM_API CKRMCElement : public CKRMCNode {
 public:
     /// An element without attributes and children. A null `name` gives an empty one.
     explicit CKRMCElement(const char* name);
-    CKRMCElement(const CKRMCElement&) = default;             // member-wise: shares attributes and children
-    CKRMCElement& operator=(const CKRMCElement&) = default;  // member-wise: what was held before is not destroyed
+    CKRMCElement(const CKRMCElement&) = default;             ///< member-wise: shares attributes and children
+    CKRMCElement& operator=(const CKRMCElement&) = default;  ///< member-wise: what was held before is not destroyed
     /// Destroys the attributes, then the groups, then the following siblings.
     ~CKRMCElement() override;
 
@@ -91,10 +91,10 @@ public:
     CKRMCElementGroup* GetFirstGroup() const { return m_pcFirstGroup; }
 
 protected:
-    CKRMCAttribute* m_pcFirstAttribute;  // owned
-    CKRMCAttribute* m_pcLastAttribute;
-    CKRMCElementGroup* m_pcFirstGroup;  // owned
-    CKRMCElementGroup* m_pcLastGroup;
+    CKRMCAttribute* m_pcFirstAttribute;  ///< owned, and through it the chain
+    CKRMCAttribute* m_pcLastAttribute;   ///< not owned
+    CKRMCElementGroup* m_pcFirstGroup;   ///< owned, and through it the chain
+    CKRMCElementGroup* m_pcLastGroup;    ///< not owned
 
 private:
     friend struct krm::tree::Chain;

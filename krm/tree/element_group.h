@@ -15,8 +15,8 @@ class KRM_API CKRMCElementGroup : public CKRMCNode {
 public:
     /// A group without elements. A null `name` gives an empty one.
     explicit CKRMCElementGroup(const char* name);
-    CKRMCElementGroup(const CKRMCElementGroup&) = default;             // member-wise: shares the elements
-    CKRMCElementGroup& operator=(const CKRMCElementGroup&) = default;  // member-wise: what was held is not destroyed
+    CKRMCElementGroup(const CKRMCElementGroup&) = default;             ///< member-wise: shares the elements
+    CKRMCElementGroup& operator=(const CKRMCElementGroup&) = default;  ///< member-wise: what was held is not destroyed
     /// Destroys the elements, then the following siblings.
     ~CKRMCElementGroup() override;
 
@@ -44,8 +44,8 @@ public:
     virtual CKRMCElement* GetElementByAttribute(CKRMError* error, CKRMCAttribute* attribute);
 
 protected:
-    CKRMCElement* m_pcFirstElement;  // owned
-    CKRMCElement* m_pcLastElement;
+    CKRMCElement* m_pcFirstElement;  ///< owned, and through it the chain
+    CKRMCElement* m_pcLastElement;   ///< not owned
 
 private:
     friend struct krm::tree::Chain;

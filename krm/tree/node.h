@@ -3,8 +3,8 @@
 //     element -> attributes
 //             -> groups -> elements of the group's name -> ...
 //
-// Here is what all nodes share, with the codes of the whole tree. Nothing else of the library uses the tree, and the tree
-// includes nothing but the platform.
+// Here is what all nodes share, with the codes of the whole tree; docs/interface.md has slots, layouts and who raises
+// which code. Nothing else of the library uses the tree, and krm/tree/ includes nothing but krm/core/ and the platform.
 //
 // Every operation that can fail takes a CKRMError first and sets its code: 0 on success, else one of the codes below,
 // with empty details. A null error object is allowed; the failure then shows in the result alone. No such operation
@@ -22,9 +22,9 @@ namespace krm::tree {
 struct Chain;
 
 // Kinds of nodes, as CKRMCNode::GetKind gives them.
-inline constexpr krm_ulong kAttributeKind = 1;
-inline constexpr krm_ulong kElementKind = 2;
-inline constexpr krm_ulong kElementGroupKind = 3;
+inline constexpr krm_ulong kAttributeKind = 1;     ///< a CKRMCAttribute
+inline constexpr krm_ulong kElementKind = 2;       ///< a CKRMCElement
+inline constexpr krm_ulong kElementGroupKind = 3;  ///< a CKRMCElementGroup
 
 // Error codes.
 inline constexpr krm_ulong kNullArgument = 1100100001;      ///< a name, text, attribute, element or group is null
@@ -50,8 +50,8 @@ class KRM_API CKRMCNode {
 public:
     /// A node on its own. A null `name` leaves the name empty.
     CKRMCNode(krm_ulong kind, const char* name);
-    CKRMCNode(const CKRMCNode&) = default;             // member-wise: shares what the links lead to
-    CKRMCNode& operator=(const CKRMCNode&) = default;  // member-wise: what the links led to before is not destroyed
+    CKRMCNode(const CKRMCNode&) = default;             ///< member-wise: shares what the links lead to
+    CKRMCNode& operator=(const CKRMCNode&) = default;  ///< member-wise: what the links led to before is not destroyed
     /// Destroys the following siblings, each through its virtual destructor and unlinked from its neighbours.
     virtual ~CKRMCNode();
 
@@ -76,11 +76,11 @@ public:
     CKRMCNode* GetParent() const { return m_pcParent; }
 
 protected:
-    krm_ulong m_ulKind;
-    CKRMString m_strName;
-    CKRMCNode* m_pcNext;  // owned
-    CKRMCNode* m_pcPrev;
-    CKRMCNode* m_pcParent;
+    krm_ulong m_ulKind;     ///< krm::tree::kAttributeKind and so on
+    CKRMString m_strName;   ///< may be empty
+    CKRMCNode* m_pcNext;    ///< next sibling; owned
+    CKRMCNode* m_pcPrev;    ///< previous sibling; not owned
+    CKRMCNode* m_pcParent;  ///< element or group whose chain this is; not owned
 
 private:
     friend struct krm::tree::Chain;

@@ -4,9 +4,9 @@
 // A file keeps, for each system, exactly what the live commands would have answered: whole answers of the diagnostic
 // commands are embedded here. The records are plain structures.
 //
-// The interface fixes types, order and defaults of the fields, but gives them no names; the names here say what a file
-// of this kind holds at that place. What the values mean is the engine's business: the library stores and copies them
-// unchanged. No field may be added between or after them.
+// The interface knows these fields by their place: their types, order and defaults are fixed (docs/interface.md). The
+// names are this library's choice and say what a file of this kind holds at that place. What the values mean is
+// the engine's business: the library stores and copies them unchanged. No field may be added between or after them.
 #ifndef KRM_MESSAGES_AUXILIARY_STORED_DATA_H_
 #define KRM_MESSAGES_AUXILIARY_STORED_DATA_H_
 
@@ -21,48 +21,52 @@
 /// A date and time as the system that stored it keeps it. Only the engine knows the layout of the bytes.
 class KRM_API CKRMCStoredDataSystemTime {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataSystemTime(); }
 
-    unsigned char m_uchSystemTime[16] = {};
+    unsigned char m_uchSystemTime[16] = {};  ///< the 16 bytes
 };
 extern template class CKRMList<CKRMCStoredDataSystemTime>;
 
 /// Two time stamps. Only the engine knows the layout of their bytes.
 class KRM_API CKRMCStoredDataTimestamp {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataTimestamp(); }
 
-    unsigned char m_uchFirstStamp[7] = {};
-    unsigned char m_uchSecondStamp[7] = {};
+    unsigned char m_uchFirstStamp[7] = {};   ///< the 7 bytes of the first stamp
+    unsigned char m_uchSecondStamp[7] = {};  ///< the 7 bytes of the second stamp
 };
 extern template class CKRMList<CKRMCStoredDataTimestamp>;
 
-/// What a file says about itself. The four numbers and the three texts are the engine's.
+/// What a file says about itself.
 class KRM_API CKRMCStoredDataFileHeader {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataFileHeader(); }
 
-    unsigned short m_ushFileType = 0;       ///< kind of file
-    unsigned short m_ushFileVersion = 0;    ///< version of its format
-    krm_ulong m_ulHeaderNumber1 = 0;        ///< first of four numbers
-    krm_ulong m_ulHeaderNumber2 = 0;        ///< second
-    krm_ulong m_ulHeaderNumber3 = 0;        ///< third
-    krm_ulong m_ulHeaderNumber4 = 0;        ///< fourth
-    CKRMString m_strHeaderText1;            ///< first of three texts
-    CKRMString m_strHeaderText2;            ///< second
-    CKRMString m_strHeaderText3;            ///< third
-    CKRMCStoredDataTimestamp m_cTimestamp;  ///< when it was stored
+    unsigned short m_ushFileType = 0;       ///< kind of file; the codes are the engine's
+    unsigned short m_ushFileVersion = 0;    ///< version of the file's format
+    krm_ulong m_ulHeaderNumber1 = 0;        ///< first of four numbers, which are the engine's
+    krm_ulong m_ulHeaderNumber2 = 0;        ///< second number
+    krm_ulong m_ulHeaderNumber3 = 0;        ///< third number
+    krm_ulong m_ulHeaderNumber4 = 0;        ///< fourth number
+    CKRMString m_strHeaderText1;            ///< first of three texts, which are the engine's
+    CKRMString m_strHeaderText2;            ///< second text
+    CKRMString m_strHeaderText3;            ///< third text
+    CKRMCStoredDataTimestamp m_cTimestamp;  ///< time stamps of the file
 };
 extern template class CKRMList<CKRMCStoredDataFileHeader>;
 
 /// One system, that is one ECU, in a file. CKRMCStoredDataSystemData begins with the same fields.
 class KRM_API CKRMCStoredDataSystemInfo {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataSystemInfo(); }
 
     unsigned short m_ushGroupId = 0;  ///< group that the system belongs to
     CKRMString m_strGroupName;        ///< name of the group
-    krm_ulong m_ulSystemId = 0;       ///< the system
+    krm_ulong m_ulSystemId = 0;       ///< system ID; the IDs are the engine's
     CKRMString m_strSystem;           ///< name of the system
 };
 extern template class CKRMList<CKRMCStoredDataSystemInfo>;
@@ -78,31 +82,33 @@ public:
     // Without initialiser on purpose. No `= 0` here, and no defaulted constructor in the class: `CKRMCStoredDataFFD()`
     // would zero the field with that.
     unsigned short m_ushFFDNo;                        ///< number of the frame; set by neither constructor nor Clear
-    unsigned char m_uchFFDId = 0;                     ///< freeze frame ID
+    unsigned char m_uchFFDId = 0;                     ///< freeze-frame ID
     unsigned char m_uchFFDType = 0;                   ///< kind of freeze frame
     unsigned char m_uchSubFunction = 0;               ///< sub-function that it was read with
-    CKRMCGetFFDCmdAdaptDataRcv m_cFirstFFD;           ///< first answer with freeze-frame items
-    CKRMCGetFFDCmdAdaptDataRcv m_cSecondFFD;          ///< second answer
-    CKRMCGetDiagDetailCmdAdaptDataRcv m_cDiagDetail;  ///< diagnosis details
+    CKRMCGetFFDCmdAdaptDataRcv m_cFirstFFD;           ///< first answer with the frame's items
+    CKRMCGetFFDCmdAdaptDataRcv m_cSecondFFD;          ///< second answer with the frame's items
+    CKRMCGetDiagDetailCmdAdaptDataRcv m_cDiagDetail;  ///< answer with the diagnosis details
 };
 extern template class CKRMList<CKRMCStoredDataFFD>;
 
-/// One stored freeze frame with absolute time.
+/// One stored absolute freeze frame.
 class KRM_API CKRMCStoredDataAbsFFD {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataAbsFFD(); }
 
-    unsigned char m_uchFFDId = 0;       ///< freeze frame ID
-    CKRMCGetFFDCmdAdaptDataRcv m_cFFD;  ///< the freeze-frame items
+    unsigned char m_uchFFDId = 0;       ///< freeze-frame ID
+    CKRMCGetFFDCmdAdaptDataRcv m_cFFD;  ///< answer with the frame's items
 };
 extern template class CKRMList<CKRMCStoredDataAbsFFD>;
 
 /// One point on the X axis of a graph.
 class KRM_API CKRMCStoredDataXPos {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataXPos(); }
 
-    double m_dXPos = 0;    ///< X position
+    double m_dXPos = 0;    ///< position on the axis; its unit is the engine's
     CKRMString m_strXPos;  ///< text at that position
 };
 extern template class CKRMList<CKRMCStoredDataXPos>;
@@ -110,42 +116,45 @@ extern template class CKRMList<CKRMCStoredDataXPos>;
 /// One file that can be imported.
 class KRM_API CKRMCStoredDataImportFileInfo {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataImportFileInfo(); }
 
-    CKRMString m_strFileName;                           ///< the file
-    CKRMCStoredDataFileHeader m_cHeader;                ///< its header
-    CKRMCVehicleDecisionCmdAdaptDataRcv m_cVehicle;     ///< vehicle identification
-    CKRMList<CKRMCStoredDataSystemInfo> m_cSystemList;  ///< the systems in it
+    CKRMString m_strFileName;                           ///< name of the file, as GetImportStoredData carries it
+    CKRMCStoredDataFileHeader m_cHeader;                ///< what the file says about itself
+    CKRMCVehicleDecisionCmdAdaptDataRcv m_cVehicle;     ///< answer that identified the vehicle
+    CKRMList<CKRMCStoredDataSystemInfo> m_cSystemList;  ///< systems that the file has data of
 };
 extern template class CKRMList<CKRMCStoredDataImportFileInfo>;
 
 /// The stored data of one system. The first four fields are those of CKRMCStoredDataSystemInfo.
 class KRM_API CKRMCStoredDataSystemData {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataSystemData(); }
 
-    unsigned short m_ushGroupId = 0;                              ///< group that the system belongs to
-    CKRMString m_strGroupName;                                    ///< name of the group
-    krm_ulong m_ulSystemId = 0;                                   ///< the system
-    CKRMString m_strSystem;                                       ///< name of the system
-    CKRMCGetDTCCmdAdaptDataRcv m_cDTC;                            ///< trouble codes
-    CKRMList<CKRMCStoredDataFFD> m_cFFDList;                      ///< freeze frames
-    CKRMCIsAbsFFDCmdAdaptDataRcv m_cIsAbsFFD;                     ///< systems that have some with absolute time
-    CKRMList<CKRMCStoredDataAbsFFD> m_cAbsFFDList;                ///< freeze frames with absolute time
-    CKRMCGetDataMonitorValueCmdAdaptDataRcv m_cDataMonitorValue;  ///< values of the data monitor
+    unsigned short m_ushGroupId = 0;                ///< group that the system belongs to
+    CKRMString m_strGroupName;                      ///< name of the group
+    krm_ulong m_ulSystemId = 0;                     ///< system ID; the IDs are the engine's
+    CKRMString m_strSystem;                         ///< name of the system
+    CKRMCGetDTCCmdAdaptDataRcv m_cDTC;              ///< answer with the trouble codes
+    CKRMList<CKRMCStoredDataFFD> m_cFFDList;        ///< freeze frames of the system
+    CKRMCIsAbsFFDCmdAdaptDataRcv m_cIsAbsFFD;       ///< answer with the systems that have absolute freeze-frame data
+    CKRMList<CKRMCStoredDataAbsFFD> m_cAbsFFDList;  ///< absolute freeze frames of the system
+    CKRMCGetDataMonitorValueCmdAdaptDataRcv m_cDataMonitorValue;  ///< answer with the data monitor's values
 };
 extern template class CKRMList<CKRMCStoredDataSystemData>;
 
 /// The content of one file.
 class KRM_API CKRMCStoredDataImportFileData {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCStoredDataImportFileData(); }
 
-    CKRMCStoredDataFileHeader m_cHeader;                ///< header
-    CKRMCVehicleDecisionCmdAdaptDataRcv m_cVehicle;     ///< vehicle identification
+    CKRMCStoredDataFileHeader m_cHeader;                ///< what the file says about itself
+    CKRMCVehicleDecisionCmdAdaptDataRcv m_cVehicle;     ///< answer that identified the vehicle
     CKRMList<CKRMCStoredDataSystemData> m_cSystemList;  ///< data by system
     CKRMList<CKRMCStoredDataXPos> m_cFirstXPosList;     ///< first list of points on the X axis
-    CKRMList<CKRMCStoredDataXPos> m_cSecondXPosList;    ///< second list
+    CKRMList<CKRMCStoredDataXPos> m_cSecondXPosList;    ///< second list of points on the X axis
 };
 extern template class CKRMList<CKRMCStoredDataImportFileData>;
 
@@ -158,7 +167,7 @@ public:
     krm_long ErrWriteOperationLog() override { return 0; }
 };
 
-/// Asks which files can be imported.
+/// GetImportFileInfo asks for the files that can be imported.
 class KRM_API CKRMCGetImportFileInfoDsdiAdaptDataSnd
     : public StoredDataMessageOf<CKRMCGetImportFileInfoDsdiAdaptDataSnd, CKRMCBaseDsdiAdaptDataSnd,
                                  "GetImportFileInfo"> {
@@ -167,23 +176,23 @@ public:
     krm_ulong m_ulFileType = 0;  ///< kind of files; the codes are the engine's
 };
 
-/// The files that can be imported.
+/// Answers GetImportFileInfo with the files that can be imported.
 class KRM_API CKRMCGetImportFileInfoDsdiAdaptDataRcv
     : public StoredDataMessageOf<CKRMCGetImportFileInfoDsdiAdaptDataRcv, CKRMCBaseDsdiAdaptDataRcv,
                                  "GetImportFileInfo"> {
 public:
-    CKRMList<CKRMCStoredDataImportFileInfo> Data;  ///< the files
+    CKRMList<CKRMCStoredDataImportFileInfo> Data;  ///< files that can be imported, without their content
 };
 
-/// Asks for the content of one file.
+/// GetImportStoredData asks for the content of a file.
 class KRM_API CKRMCGetImportStoredDataDsdiAdaptDataSnd
     : public StoredDataMessageOf<CKRMCGetImportStoredDataDsdiAdaptDataSnd, CKRMCBaseDsdiAdaptDataSnd,
                                  "GetImportStoredData"> {
 public:
-    CKRMString m_strFileName;  ///< the file, as in CKRMCStoredDataImportFileInfo
+    CKRMString m_strFileName;  ///< name of the file, as GetImportFileInfo answers with it
 };
 
-/// The content of the file.
+/// Answers GetImportStoredData with the content.
 class KRM_API CKRMCGetImportStoredDataDsdiAdaptDataRcv
     : public StoredDataMessageOf<CKRMCGetImportStoredDataDsdiAdaptDataRcv, CKRMCBaseDsdiAdaptDataRcv,
                                  "GetImportStoredData"> {
@@ -191,7 +200,7 @@ public:
     /// Restores type and ID and keeps the file's content; `Data.Clear()` drops that.
     void Clear() override;
 
-    CKRMCStoredDataImportFileData Data;  ///< the content
+    CKRMCStoredDataImportFileData Data;  ///< content of the file; Clear keeps it
 };
 
 #endif  // KRM_MESSAGES_AUXILIARY_STORED_DATA_H_

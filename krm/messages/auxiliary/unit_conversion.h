@@ -8,17 +8,19 @@
 #include "krm/framework/message.h"
 #include "krm/platform/platform.h"
 
-/// A group, an item and a unit. Each message uses some of the fields and leaves the others alone.
+/// A group, an item and a unit. Each message uses some of the fields and leaves the others alone. Has no dump: the
+/// message that holds it writes the fields it uses.
 class KRM_API CKRMCUnitConversionData {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCUnitConversionData(); }
 
-    unsigned char m_uchGroupId = 0;   ///< unit setting group
-    CKRMString m_strGroupName;        ///< group name
-    unsigned char m_uchItemId = 0;    ///< convertible item
-    CKRMString m_strItemName;         ///< item name
-    unsigned char m_uchUnitId = 0;    ///< unit
-    CKRMString m_strUnitName;         ///< unit name
+    unsigned char m_uchGroupId = 0;   ///< number of the unit setting group
+    CKRMString m_strGroupName;        ///< text of the group's name
+    unsigned char m_uchItemId = 0;    ///< number of the convertible item
+    CKRMString m_strItemName;         ///< text of the item's name
+    unsigned char m_uchUnitId = 0;    ///< number of the unit
+    CKRMString m_strUnitName;         ///< text of the unit's name
     unsigned short m_ushGenreId = 0;  ///< genre: kind of quantity, the same number as in CKRMCCommandConversionData
 };
 extern template class CKRMList<CKRMCUnitConversionData>;
@@ -26,117 +28,120 @@ extern template class CKRMList<CKRMCUnitConversionData>;
 /// A convertible item and the units that it may be shown in.
 class KRM_API CKRMCUnitConvDataItemInfo {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCUnitConvDataItemInfo(); }
 
-    unsigned char m_uchItemId = 0;                  ///< convertible item
-    CKRMString m_strItemName;                       ///< item name
-    CKRMList<CKRMCUnitConversionData> m_cUnitList;  ///< its units; unit and unit name are used
+    unsigned char m_uchItemId = 0;                  ///< number of the convertible item
+    CKRMString m_strItemName;                       ///< text of the item's name
+    CKRMList<CKRMCUnitConversionData> m_cUnitList;  ///< units that it may be shown in; unit and unit name are used
 };
 extern template class CKRMList<CKRMCUnitConvDataItemInfo>;
 
 /// The settings of a unit setting group: which item is shown in which unit.
 class KRM_API CKRMCUnitConvDataSettingInfo {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCUnitConvDataSettingInfo(); }
 
-    unsigned char m_uchGroupId = 0;                    ///< unit setting group
-    CKRMList<CKRMCUnitConversionData> m_cSettingList;  ///< its settings; item and unit are used
+    unsigned char m_uchGroupId = 0;                    ///< number of the unit setting group
+    CKRMList<CKRMCUnitConversionData> m_cSettingList;  ///< settings of the group; item and unit are used
 };
 extern template class CKRMList<CKRMCUnitConvDataSettingInfo>;
 
-/// One identifier that the unit conversion is created for.
+/// An identifier that the unit conversion is created for.
 class KRM_API CKRMCUnitConversionCreationData {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCUnitConversionCreationData(); }
 
     unsigned short m_ushIdType = 0;  ///< kind of identifier; the codes are the engine's
-    CKRMString m_strValue;           ///< the identifier's value
+    CKRMString m_strValue;           ///< value of the identifier
 };
 extern template class CKRMList<CKRMCUnitConversionCreationData>;
 
-/// Asks the engine to set up unit conversion.
+/// CreateUnitConversionCommand asks to set up unit conversion.
 class KRM_API CKRMCCreateUnitConversionCommandUccAdaptDataSnd
     : public krm::MessageOf<CKRMCCreateUnitConversionCommandUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
                             "CreateUnitConversionCommand"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCUnitConversionCreationData> Data;  ///< what it is set up for
+    CKRMList<CKRMCUnitConversionCreationData> Data;  ///< identifiers that it is set up for
 };
 
-/// Unit conversion is set up.
+/// Answers CreateUnitConversionCommand; has only what every answer has.
 class KRM_API CKRMCCreateUnitConversionCommandUccAdaptDataRcv
     : public krm::MessageOf<CKRMCCreateUnitConversionCommandUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
                             "CreateUnitConversionCommand"> {};
 
-/// Asks for the convertible items.
+/// GetUnitConversionInfoList asks for the convertible items.
 class KRM_API CKRMCGetUnitConversionInfoListUccAdaptDataSnd
     : public krm::MessageOf<CKRMCGetUnitConversionInfoListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
                             "GetUnitConversionInfoList"> {};
 
-/// The convertible items with their units.
+/// Answers GetUnitConversionInfoList with the items and the units of each.
 class KRM_API CKRMCGetUnitConversionInfoListUccAdaptDataRcv
     : public krm::MessageOf<CKRMCGetUnitConversionInfoListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
                             "GetUnitConversionInfoList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCUnitConvDataItemInfo> Data;  ///< the items
+    CKRMList<CKRMCUnitConvDataItemInfo> Data;  ///< convertible items with their units
 };
 
-/// Chooses the units of items.
+/// SetUnitConversionInfo asks to show items in other units.
 class KRM_API CKRMCSetUnitConversionInfoUccAdaptDataSnd
     : public krm::MessageOf<CKRMCSetUnitConversionInfoUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
                             "SetUnitConversionInfo"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCUnitConversionData> Data;  ///< the choices; item and unit are used
+    CKRMList<CKRMCUnitConversionData> Data;  ///< units to set; item and unit are used
 };
 
-/// The units that hold now.
+/// Answers SetUnitConversionInfo with the units that were set.
 class KRM_API CKRMCSetUnitConversionInfoUccAdaptDataRcv
     : public krm::MessageOf<CKRMCSetUnitConversionInfoUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
                             "SetUnitConversionInfo"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCUnitConversionData> Data;  ///< the units by genre; genre and unit are used
+    CKRMList<CKRMCUnitConversionData> Data;  ///< units that were set; genre and unit are used
 };
 
-/// Asks for the unit setting groups.
+/// GetUnitSettingGroupList asks for the unit setting groups.
 class KRM_API CKRMCGetUnitSettingGroupListUccAdaptDataSnd
     : public krm::MessageOf<CKRMCGetUnitSettingGroupListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
                             "GetUnitSettingGroupList"> {};
 
-/// The unit setting groups.
+/// Answers GetUnitSettingGroupList with the groups.
 class KRM_API CKRMCGetUnitSettingGroupListUccAdaptDataRcv
     : public krm::MessageOf<CKRMCGetUnitSettingGroupListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
                             "GetUnitSettingGroupList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCUnitConversionData> Data;  ///< the groups; group and group name are used
+    CKRMList<CKRMCUnitConversionData> Data;  ///< unit setting groups; group and group name are used
 };
 
-/// Asks for the settings of groups.
+/// GetUnitSettingGroupParamList asks for the settings of groups.
 class KRM_API CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd
     : public krm::MessageOf<CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd, CKRMCBaseUccAdaptDataSnd,
                             "GetUnitSettingGroupParamList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCUnitConversionData> Data;  ///< the groups asked for; group is used
+    CKRMList<CKRMCUnitConversionData> Data;  ///< groups asked for; only the group is used
 };
 
-/// The settings of the groups.
+/// Answers GetUnitSettingGroupParamList with the settings of each group.
 class KRM_API CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv
     : public krm::MessageOf<CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv, CKRMCBaseUccAdaptDataRcv,
                             "GetUnitSettingGroupParamList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCUnitConvDataSettingInfo> Data;  ///< each group's settings
+    CKRMList<CKRMCUnitConvDataSettingInfo> Data;  ///< groups with their settings
 };
 
 #endif  // KRM_MESSAGES_AUXILIARY_UNIT_CONVERSION_H_

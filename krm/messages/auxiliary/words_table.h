@@ -10,61 +10,64 @@
 #include "krm/framework/message.h"
 #include "krm/platform/platform.h"
 
-/// One identifier that the words table is built for.
+/// An identifier that the words table is built for.
 class KRM_API CKRMCDiagWordsTableCreationData {
 public:
     virtual ~CKRMCDiagWordsTableCreationData();
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCDiagWordsTableCreationData(); }
 
     unsigned short m_ushIdType = 0;  ///< kind of identifier; the codes are the engine's
-    CKRMString m_strValue;           ///< the identifier's value
+    CKRMString m_strValue;           ///< value of the identifier
 };
 extern template class CKRMList<CKRMCDiagWordsTableCreationData>;
 
-/// A words ID and its text in the user's language. The log prints the fields as `ID` and `String`.
+/// A words ID and its translation. Logged as `ID` and `String`.
 class KRM_API CKRMCDiagWordsTableTranslationStringData {
 public:
     virtual ~CKRMCDiagWordsTableTranslationStringData();
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCDiagWordsTableTranslationStringData(); }
 
-    krm_ulong m_ulId = 0;    ///< words ID
-    CKRMString m_strString;  ///< its text
+    krm_ulong m_ulId = 0;    ///< words ID; logged under the name ID
+    CKRMString m_strString;  ///< translation of that ID; logged under the name String
 };
 extern template class CKRMList<CKRMCDiagWordsTableTranslationStringData>;
 
-/// Asks the engine to build the words table.
+/// CreateDiagWordsTable asks to build the table of words.
 class KRM_API CKRMCCreateDiagWordsTableDwtAdaptDataSnd
     : public krm::MessageOf<CKRMCCreateDiagWordsTableDwtAdaptDataSnd, CKRMCBaseDwtAdaptDataSnd,
                             "CreateDiagWordsTable"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCDiagWordsTableCreationData> Data;  ///< what it is built for
+    CKRMList<CKRMCDiagWordsTableCreationData> Data;  ///< identifiers that the table is built for
 };
 
-/// The words table is built.
+/// Answers CreateDiagWordsTable; has only what every answer has.
 class KRM_API CKRMCCreateDiagWordsTableDwtAdaptDataRcv
     : public krm::MessageOf<CKRMCCreateDiagWordsTableDwtAdaptDataRcv, CKRMCBaseDwtAdaptDataRcv,
                             "CreateDiagWordsTable"> {};
 
-/// Asks for the texts of words IDs.
+/// GetTranslationString asks for the translations of words IDs from the table of words.
 class KRM_API CKRMCGetTranslationStringDwtAdaptDataSnd
     : public krm::MessageOf<CKRMCGetTranslationStringDwtAdaptDataSnd, CKRMCBaseDwtAdaptDataSnd,
                             "GetTranslationString"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<krm_ulong> m_ulIdList;  ///< the words IDs
+    CKRMList<krm_ulong> m_ulIdList;  ///< words IDs to translate
 };
 
-/// The texts.
+/// Answers GetTranslationString with the translations.
 class KRM_API CKRMCGetTranslationStringDwtAdaptDataRcv
     : public krm::MessageOf<CKRMCGetTranslationStringDwtAdaptDataRcv, CKRMCBaseDwtAdaptDataRcv,
                             "GetTranslationString"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCDiagWordsTableTranslationStringData> m_cTranslationStringDataList;  ///< words IDs with their texts
+    CKRMList<CKRMCDiagWordsTableTranslationStringData>
+        m_cTranslationStringDataList;  ///< words IDs with their translations
 };
 
 #endif  // KRM_MESSAGES_AUXILIARY_WORDS_TABLE_H_

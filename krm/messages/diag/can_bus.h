@@ -1,4 +1,4 @@
-// Checks of the CAN bus: which ECUs are on it, and which answer.
+// Checks of the communication on the CAN bus. Records come first, then the messages by command ID.
 #ifndef KRM_MESSAGES_DIAG_CAN_BUS_H_
 #define KRM_MESSAGES_DIAG_CAN_BUS_H_
 
@@ -7,17 +7,17 @@
 #include "krm/framework/message.h"
 #include "krm/platform/platform.h"
 
-/// An ECU on the CAN bus, as a check of the bus sees it.
+/// An ECU as a check of the CAN bus sees it. Has no dump: the message that holds it writes its fields.
 class KRM_API CKRMCCommandCanBusCategoryInfo {
 public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandCanBusCategoryInfo(); }
 
-    krm_ulong m_ulEcuId = 0;                ///< ECU identifier
+    krm_ulong m_ulEcuId = 0;                ///< ECU identifier, as requests carry it
     krm_ulong m_ulEcuNameId = 0;            ///< words ID of the ECU's name
-    CKRMString m_strEcuName;                ///< the ECU's name
-    krm_ulong m_ulCategoryId = 0;           ///< category ID; the IDs are the engine's
-    unsigned char m_uchHistPidSupport = 0;  ///< whether the ECU has a PID for its history; the codes are the engine's
+    CKRMString m_strEcuName;                ///< text of the ECU's name
+    krm_ulong m_ulCategoryId = 0;           ///< category of the ECU; the IDs are the engine's
+    unsigned char m_uchHistPidSupport = 0;  ///< whether a PID gives the ECU's history; the codes are the engine's
 };
 extern template class CKRMList<CKRMCCommandCanBusCategoryInfo>;
 
@@ -27,7 +27,7 @@ public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandCanBusCategoryListData(); }
 
-    CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs
+    CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs that the result is about
 };
 extern template class CKRMList<CKRMCCommandCanBusCategoryListData>;
 
@@ -36,33 +36,33 @@ class KRM_API CKRMCGetCanBusCategoryListCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetCanBusCategoryListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                             "GetCanBusCategoryList"> {};
 
-/// Answers with those ECUs.
+/// Answers GetCanBusCategoryList with the ECUs that can be checked.
 class KRM_API CKRMCGetCanBusCategoryListCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetCanBusCategoryListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                             "GetCanBusCategoryList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs
+    CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs that can be checked
 };
 
-/// GetCanBusCheckList asks to check the communication of the given ECUs.
+/// GetCanBusCheckList asks to check the communication of ECUs.
 class KRM_API CKRMCGetCanBusCheckListCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetCanBusCheckListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetCanBusCheckList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs to check
+    CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs to check, as GetCanBusCategoryList answers with them
 };
 
-/// Answers with what the check found.
+/// Answers GetCanBusCheckList with the results of the check.
 class KRM_API CKRMCGetCanBusCheckListCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetCanBusCheckListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetCanBusCheckList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
     CKRMList<CKRMCCommandCanBusCategoryListData> Info;  ///< current results
-    CKRMList<CKRMCCommandCanBusCategoryListData> Hist;  ///< history
+    CKRMList<CKRMCCommandCanBusCategoryListData> Hist;  ///< history of results
 };
 
 #endif  // KRM_MESSAGES_DIAG_CAN_BUS_H_

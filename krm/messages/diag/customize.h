@@ -1,4 +1,4 @@
-// Customisation of vehicle functions and of the destination.
+// Customisation of vehicle functions and of the destination. Records come first, then the messages by command ID.
 #ifndef KRM_MESSAGES_DIAG_CUSTOMIZE_H_
 #define KRM_MESSAGES_DIAG_CUSTOMIZE_H_
 
@@ -7,15 +7,15 @@
 #include "krm/framework/message.h"
 #include "krm/platform/platform.h"
 
-/// A group of functions that can be customised.
+/// A customisation, which has items to set. Has no dump: the message that holds it writes its fields.
 class KRM_API CKRMCCommandCustomizeName {
 public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandCustomizeName(); }
 
-    unsigned short m_ushCustomizeId = 0;  ///< customisation ID
-    krm_ulong m_ulCustomizeNameId = 0;    ///< words ID of the name
-    CKRMString m_strCustomizeName;        ///< name
+    unsigned short m_ushCustomizeId = 0;  ///< ID of the customisation, as requests carry it
+    krm_ulong m_ulCustomizeNameId = 0;    ///< words ID of the customisation's name
+    CKRMString m_strCustomizeName;        ///< text of the customisation's name
 };
 extern template class CKRMList<CKRMCCommandCustomizeName>;
 
@@ -28,90 +28,93 @@ public:
 
     CKRMString m_strDispName;                         ///< text shown for the value
     krm_ulong m_ulDispNameId = 0;                     ///< words ID of that text
-    unsigned short m_ushCustomizeValue = 0;           ///< value as a number
-    CKRMList<unsigned char> m_uchCustomizeValueList;  ///< value as bytes
+    unsigned short m_ushCustomizeValue = 0;           ///< the value as a number, if 16 bits hold it
+    CKRMList<unsigned char> m_uchCustomizeValueList;  ///< the value as bytes; logged as one text of hexadecimal digits
 };
 extern template class CKRMList<CKRMCCommandCustomizeItemValue>;
 
-/// One customisable item: its current value and the values that it can take.
+/// A customisable item: its current value and the values that it can take. Has no dump: the message that holds it
+/// writes its fields.
 class KRM_API CKRMCCommandCustomizeItemData {
 public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandCustomizeItemData(); }
 
-    unsigned short m_ushCustomizeItemId = 0;                         ///< item ID
-    krm_ulong m_ulCustomizeItemNameId = 0;                           ///< words ID of the name
-    CKRMString m_strCustomizeItemName;                               ///< name
-    bool m_bCurrentValue = false;                                    ///< the current value is there
-    unsigned short m_ushCurrentValue = 0;                            ///< current value as a number
-    CKRMList<unsigned char> m_uchCurrentValueList;                   ///< current value as bytes
-    krm_ulong m_ulInfoId = 0;                                        ///< words ID of the information text
-    krm_ulong m_ulPersonalizeId = 0;                                 ///< whose setting it is; the IDs are the engine's
-    CKRMList<CKRMCCommandCustomizeItemValue> m_cCustomizeValueList;  ///< possible values
+    unsigned short m_ushCustomizeItemId = 0;  ///< ID of the item
+    krm_ulong m_ulCustomizeItemNameId = 0;    ///< words ID of the item's name
+    CKRMString m_strCustomizeItemName;        ///< text of the item's name
+    bool m_bCurrentValue = false;             ///< the current value is there
+    unsigned short m_ushCurrentValue = 0;     ///< current value as a number, if 16 bits hold it
+    CKRMList<unsigned char>
+        m_uchCurrentValueList;        ///< current value as bytes; logged as one text of hexadecimal digits
+    krm_ulong m_ulInfoId = 0;         ///< ID of the information text
+    krm_ulong m_ulPersonalizeId = 0;  ///< whose setting it is; the IDs are the engine's; logged in hexadecimal
+    CKRMList<CKRMCCommandCustomizeItemValue> m_cCustomizeValueList;  ///< values that the item can take
 };
 extern template class CKRMList<CKRMCCommandCustomizeItemData>;
 
-/// One item to set, and its new value.
+/// An item to set, and its new value. Has no dump: the message that holds it writes its fields.
 class KRM_API CKRMCCommandCustomizeItemSetData {
 public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandCustomizeItemSetData(); }
 
-    unsigned short m_ushCustomizeId = 0;              ///< customisation ID
-    unsigned short m_ushCustomizeItemId = 0;          ///< item ID
-    unsigned short m_ushCustomizeValue = 0;           ///< value as a number
-    CKRMList<unsigned char> m_uchCustomizeValueList;  ///< value as bytes
+    unsigned short m_ushCustomizeId = 0;              ///< ID of the customisation
+    unsigned short m_ushCustomizeItemId = 0;          ///< ID of the item to set
+    unsigned short m_ushCustomizeValue = 0;           ///< new value as a number, if 16 bits hold it
+    CKRMList<unsigned char> m_uchCustomizeValueList;  ///< new value as bytes; logged as one text of hexadecimal digits
 };
 extern template class CKRMList<CKRMCCommandCustomizeItemSetData>;
 
-/// Whether an item could be set.
+/// Whether an item was set. Has no dump: the message that holds it writes its fields.
 class KRM_API CKRMCCommandCustomizeItemResult {
 public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandCustomizeItemResult(); }
 
-    unsigned short m_ushCustomizeId = 0;      ///< customisation ID
-    unsigned short m_ushCustomizeItemId = 0;  ///< item ID
+    unsigned short m_ushCustomizeId = 0;      ///< ID of the customisation
+    unsigned short m_ushCustomizeItemId = 0;  ///< ID of the item
     bool m_bSuccess = false;                  ///< the item was set
 };
 extern template class CKRMList<CKRMCCommandCustomizeItemResult>;
 
-/// GetCustomizeSupportList asks what can be customised.
+/// GetCustomizeSupportList asks for what can be customised.
 class KRM_API CKRMCGetCustomizeSupportListCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetCustomizeSupportListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                             "GetCustomizeSupportList"> {};
 
-/// Answers with the names of what can be customised.
+/// Answers GetCustomizeSupportList with the customisations.
 class KRM_API CKRMCGetCustomizeSupportListCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetCustomizeSupportListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                             "GetCustomizeSupportList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandCustomizeName> Data;  ///< names
+    CKRMList<CKRMCCommandCustomizeName> Data;  ///< customisations, without their items
 };
 
-/// GetCustomizeItemList asks for the items of one customisation.
+/// GetCustomizeItemList asks for the items of a customisation.
 class KRM_API CKRMCGetCustomizeItemListCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetCustomizeItemListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                             "GetCustomizeItemList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    unsigned short m_ushCustomizeId = 0;            ///< customisation ID
-    bool m_bGetCurrentValue = false;                ///< current values are asked for too
-    CKRMList<krm_ulong> m_cSpecialFunctionKeyList;  ///< special function keys; logged under the name Data
-    krm_ulong m_ulPersonalizeId = 0;                ///< whose settings are meant; the IDs are the engine's
+    unsigned short m_ushCustomizeId = 0;  ///< customisation whose items are asked for
+    bool m_bGetCurrentValue = false;      ///< current values are asked for too
+    CKRMList<krm_ulong>
+        m_cSpecialFunctionKeyList;    ///< special function keys; logged under the name Data, in hexadecimal
+    krm_ulong m_ulPersonalizeId = 0;  ///< whose settings are meant; the IDs are the engine's; logged in hexadecimal
 };
 
-/// Answers with the items.
+/// Answers GetCustomizeItemList with the items.
 class KRM_API CKRMCGetCustomizeItemListCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetCustomizeItemListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                             "GetCustomizeItemList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandCustomizeItemData> Data;  ///< items
+    CKRMList<CKRMCCommandCustomizeItemData> Data;  ///< items with the values that they can take
 };
 
 /// SetCustomizeItem asks to give items new values.
@@ -123,13 +126,13 @@ public:
     CKRMList<CKRMCCommandCustomizeItemSetData> Data;  ///< items and their new values
 };
 
-/// Answers which items could be set.
+/// Answers SetCustomizeItem with a result per item.
 class KRM_API CKRMCSetCustomizeItemCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCSetCustomizeItemCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "SetCustomizeItem"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandCustomizeItemResult> Data;  ///< a result per item
+    CKRMList<CKRMCCommandCustomizeItemResult> Data;  ///< which items were set
 };
 
 /// GetCustomizeDestination asks for the destination that the vehicle is set to.
@@ -137,7 +140,7 @@ class KRM_API CKRMCGetCustomizeDestinationCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetCustomizeDestinationCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                             "GetCustomizeDestination"> {};
 
-/// Answers with the destination.
+/// Answers GetCustomizeDestination with the destination.
 class KRM_API CKRMCGetCustomizeDestinationCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetCustomizeDestinationCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                             "GetCustomizeDestination"> {
@@ -145,8 +148,8 @@ public:
     void Dump(const krm::MessageLines& line);
 
     bool m_bEnable = false;               ///< the destination can be set
-    krm_ulong m_ulDestinationDispId = 0;  ///< words ID of the text shown for it
-    CKRMString m_strDestinationDisp;      ///< text shown for it
+    krm_ulong m_ulDestinationDispId = 0;  ///< words ID of the destination's text
+    CKRMString m_strDestinationDisp;      ///< text of the destination
 };
 
 /// SetCustomizeDestination asks to set the destination.
@@ -156,10 +159,10 @@ class KRM_API CKRMCSetCustomizeDestinationCmdAdaptDataSnd
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMString m_strDestinationCode;  ///< destination code
+    CKRMString m_strDestinationCode;  ///< code of the destination, as the user gives it
 };
 
-/// Answers whether the code was accepted.
+/// Answers SetCustomizeDestination with the outcome.
 class KRM_API CKRMCSetCustomizeDestinationCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCSetCustomizeDestinationCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                             "SetCustomizeDestination"> {

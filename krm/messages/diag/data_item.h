@@ -7,14 +7,14 @@
 #include "krm/framework/message.h"
 #include "krm/framework/record.h"
 
-/// A value to be written to an item.
+/// A value to be written to an item. Has a dump of its own, but the message that holds it writes its fields.
 class KRM_API CKRMCCommandWriteData : public krm::RecordOf<CKRMCCommandWriteData> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushId = 0;   ///< item ID
-    unsigned char m_uchType = 0;  ///< value type
-    krm_ulong m_ulData = 0;       ///< the value
+    unsigned short m_ushId = 0;   ///< item ID; the IDs are the engine's
+    unsigned char m_uchType = 0;  ///< type of the value; the codes are the engine's
+    krm_ulong m_ulData = 0;       ///< value to write
 };
 extern template class CKRMList<CKRMCCommandWriteData>;
 
@@ -24,10 +24,10 @@ class KRM_API CKRMCWriteDataItemCmdAdaptDataSnd
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandWriteData> Data;  ///< items and their values
+    CKRMList<CKRMCCommandWriteData> Data;  ///< items and the values to write to them
 };
 
-/// Answers that the items were written; has only what every answer has.
+/// Answers WriteDataItem; has only what every answer has.
 class KRM_API CKRMCWriteDataItemCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCWriteDataItemCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "WriteDataItem"> {};
 

@@ -1,4 +1,4 @@
-// Records that an ECU stored on events, and the commands that list and read them.
+// Records that an ECU stored on events, and the commands that list and read them, by command ID.
 #ifndef KRM_MESSAGES_DIAG_EVENT_RECORDS_H_
 #define KRM_MESSAGES_DIAG_EVENT_RECORDS_H_
 
@@ -9,82 +9,82 @@
 #include "krm/messages/diag/freeze_frame_item.h"
 #include "krm/platform/platform.h"
 
-/// One event of which records may be stored.
+/// An event of which records may be stored.
 class KRM_API CKRMCCommandEventRecordDataItem : public krm::RecordOf<CKRMCCommandEventRecordDataItem> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushEventRecordDataItemId = 0;  ///< event ID
+    unsigned short m_ushEventRecordDataItemId = 0;  ///< event ID, as requests carry it
     krm_ulong m_ulEventRecordDataItemNameId = 0;    ///< words ID of the event's name
-    CKRMString m_strEventRecordDataItemName;        ///< the event's name
-    bool m_bRecordData = false;                     ///< the event holds record data
+    CKRMString m_strEventRecordDataItemName;        ///< text of the event's name
+    bool m_bRecordData = false;                     ///< the item holds record data
 };
 extern template class CKRMList<CKRMCCommandEventRecordDataItem>;
 
-/// One record stored of an event.
+/// A record stored of an event.
 class KRM_API CKRMCCommandRecordDataItem : public krm::RecordOf<CKRMCCommandRecordDataItem> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushRecordDataItemId = 0;  ///< record ID
+    unsigned short m_ushRecordDataItemId = 0;  ///< record ID, as GetEventRecordData carries it
     krm_ulong m_ulRecordDataItemNameId = 0;    ///< words ID of the record's name
-    CKRMString m_strRecordDataItemName;        ///< the record's name
+    CKRMString m_strRecordDataItemName;        ///< text of the record's name
 };
 extern template class CKRMList<CKRMCCommandRecordDataItem>;
 
-/// Asks for the events of which records may be stored.
+/// GetEventRecordDataList asks for the events of which records may be stored.
 class KRM_API CKRMCGetEventRecordDataListCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetEventRecordDataListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                             "GetEventRecordDataList"> {};
 
-/// Answers with the events.
+/// Answers GetEventRecordDataList with the events.
 class KRM_API CKRMCGetEventRecordDataListCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetEventRecordDataListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                             "GetEventRecordDataList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandEventRecordDataItem> Data;  ///< the events
+    CKRMList<CKRMCCommandEventRecordDataItem> Data;  ///< events, without their records
 };
 
-/// Asks for the records stored of an event.
+/// GetRecordDataList asks for the records stored of an event.
 class KRM_API CKRMCGetRecordDataListCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetRecordDataListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetRecordDataList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    unsigned short m_ushEventRecordDataItemId = 0;  ///< the event
+    unsigned short m_ushEventRecordDataItemId = 0;  ///< event whose records are asked for
 };
 
-/// Answers with the records.
+/// Answers GetRecordDataList with the records.
 class KRM_API CKRMCGetRecordDataListCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetRecordDataListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetRecordDataList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandRecordDataItem> Data;  ///< the records
+    CKRMList<CKRMCCommandRecordDataItem> Data;  ///< records, without their values
 };
 
-/// Asks for the values of a record of an event.
+/// GetEventRecordData asks for the values of a record of an event.
 class KRM_API CKRMCGetEventRecordDataCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetEventRecordDataCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetEventRecordData"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    unsigned short m_ushEventRecordDataItemId = 0;  ///< the event
-    unsigned short m_ushRecordDataItemId = 0;       ///< the record
+    unsigned short m_ushEventRecordDataItemId = 0;  ///< event that the record belongs to
+    unsigned short m_ushRecordDataItemId = 0;       ///< record whose values are asked for
 };
 
-/// Answers with the values.
+/// Answers GetEventRecordData with the values.
 class KRM_API CKRMCGetEventRecordDataCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetEventRecordDataCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetEventRecordData"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    bool m_bTimeInfoFlag = false;        ///< the values have times
-    signed char m_chBegin = 0;           ///< begin of the range
-    signed char m_chEnd = 0;             ///< end of the range
-    CKRMList<CKRMCCommandFFDData> Data;  ///< the values
+    bool m_bTimeInfoFlag = false;        ///< the values carry times
+    signed char m_chBegin = 0;           ///< begin of the range of values; its meaning is the engine's
+    signed char m_chEnd = 0;             ///< end of the range of values; its meaning is the engine's
+    CKRMList<CKRMCCommandFFDData> Data;  ///< values, in the form of freeze-frame items
 };
 
 #endif  // KRM_MESSAGES_DIAG_EVENT_RECORDS_H_

@@ -15,21 +15,21 @@ class KRM_API CKRMCCommandFFDData : public krm::RecordOf<CKRMCCommandFFDData> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushId = 0;                      ///< item ID
-    krm_ulong m_ulNameId = 0;                        ///< words ID of the item's name
-    CKRMString m_strName;                            ///< the item's name
-    CKRMString m_strFFDText;                         ///< second text of the item; stored and copied, never logged
-    krm_ulong m_ulUnitPhysId = 0;                    ///< words ID of the physical unit
-    CKRMString m_strUnitPhys;                        ///< physical unit
-    krm_ulong m_ulUnitId = 0;                        ///< words ID of the display unit
-    CKRMString m_strUnit;                            ///< display unit
-    krm_ulong m_ulFFDReserved = 0;                   ///< stored and copied, never logged
-    unsigned char m_uchDataType = 0;                 ///< data type of the value, as the converters take it
-    unsigned char m_uchDecPntCount = 0;              ///< decimal places of the value
+    unsigned short m_ushId = 0;          ///< ID of the item; the IDs are the engine's
+    krm_ulong m_ulNameId = 0;            ///< words ID of the item's name
+    CKRMString m_strName;                ///< text of the item's name
+    CKRMString m_strFFDText;             ///< second text of the item; stored, copied and cleared only; not logged
+    krm_ulong m_ulUnitPhysId = 0;        ///< words ID of the physical unit
+    CKRMString m_strUnitPhys;            ///< text of the physical unit
+    krm_ulong m_ulUnitId = 0;            ///< words ID of the display unit
+    CKRMString m_strUnit;                ///< text of the display unit
+    krm_ulong m_ulFFDReserved = 0;       ///< stored, copied and cleared only; not logged
+    unsigned char m_uchDataType = 0;     ///< type of the value, as CreateConverter takes it
+    unsigned char m_uchDecPntCount = 0;  ///< decimal places of the physical value
     unsigned char m_uchUnitConvDecPntCount = 0;      ///< decimal places after unit conversion
-    CKRMCCommandConversionData m_cConversionTbl;     ///< conversion rule
-    CKRMCCommandDispData m_cResolutionData;          ///< resolution, as a display value
-    CKRMList<CKRMCCommandDispData> m_cDispDataList;  ///< the item's display values
+    CKRMCCommandConversionData m_cConversionTbl;     ///< conversion of the raw value
+    CKRMCCommandDispData m_cResolutionData;          ///< smallest step, as a display value
+    CKRMList<CKRMCCommandDispData> m_cDispDataList;  ///< display values of the item
     CKRMCCommandDataLayout m_cDataLayout;            ///< where the raw value lies in the ECU's response
 };
 extern template class CKRMList<CKRMCCommandFFDData>;

@@ -1,6 +1,8 @@
 // Freeze frames: the values that were stored together with a trouble code, and the times at which that happened.
 //
-// What phase types, sub-functions and the begin and end pairs mean is the engine's; the library stores them unchanged.
+// Records come first, then the messages by command ID; the item that freeze frames are made of is in
+// freeze_frame_item.h. What phase types, sub-functions and the begin and end pairs mean is the engine's; the library
+// stores them unchanged.
 #ifndef KRM_MESSAGES_DIAG_FREEZE_FRAMES_H_
 #define KRM_MESSAGES_DIAG_FREEZE_FRAMES_H_
 
@@ -11,15 +13,15 @@
 #include "krm/messages/diag/freeze_frame_item.h"
 #include "krm/platform/platform.h"
 
-/// A system with a freeze frame that has an absolute time.
+/// A system with absolute freeze-frame data.
 class KRM_API CKRMCCommandAbsFFDData : public krm::RecordOf<CKRMCCommandAbsFFDData> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    krm_ulong m_ulSystemId = 0;    ///< system ID
-    CKRMString m_strSystem;        ///< the system's name
+    krm_ulong m_ulSystemId = 0;    ///< system ID; the IDs are the engine's
+    CKRMString m_strSystem;        ///< text of the system's name
     unsigned char m_uchFFDId = 0;  ///< freeze-frame ID
-    unsigned char m_uchIndex = 0;  ///< index
+    unsigned char m_uchIndex = 0;  ///< index of the freeze frame; its meaning is the engine's
 };
 extern template class CKRMList<CKRMCCommandAbsFFDData>;
 
@@ -28,8 +30,8 @@ class KRM_API CKRMCAbsoluteTimeInfo : public krm::RecordOf<CKRMCAbsoluteTimeInfo
 public:
     void Dump(const krm::RecordLines& line);
 
-    CKRMCCommandFFDData m_cTripTime;              ///< trip time
-    CKRMCCommandFFDData m_cInternalClock;         ///< the ECU's internal clock
+    CKRMCCommandFFDData m_cTripTime;              ///< time by the trip counter
+    CKRMCCommandFFDData m_cInternalClock;         ///< time by the ECU's internal clock
     CKRMCCommandFFDData m_cGPSTimeYear;           ///< GPS time: year
     CKRMCCommandFFDData m_cGPSTimeMonth;          ///< GPS time: month
     CKRMCCommandFFDData m_cGPSTimeDay;            ///< GPS time: day
@@ -48,114 +50,114 @@ class KRM_API CKRMCEcuSpecificInfo : public krm::RecordOf<CKRMCEcuSpecificInfo> 
 public:
     void Dump(const krm::RecordLines& line);
 
-    krm_ulong m_ulEcuId = 0;        ///< the ECU
-    unsigned short m_ushBusId = 0;  ///< the bus that it is on
+    krm_ulong m_ulEcuId = 0;        ///< ECU identifier, as requests carry it
+    unsigned short m_ushBusId = 0;  ///< bus that the ECU is on
 };
 extern template class CKRMList<CKRMCEcuSpecificInfo>;
 
-/// Asks for a freeze frame.
+/// GetFFD asks for a freeze frame.
 class KRM_API CKRMCGetFFDCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetFFDCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetFFD"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    unsigned char m_uchFFDId = 0;            ///< freeze-frame ID
-    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers
-    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers
-    krm_ulong m_ulDTC = 0;                   ///< trouble code that the freeze frame belongs to
-    CKRMList<unsigned short> m_cPidId;       ///< the PIDs asked for
-    unsigned char m_uchSubFunction = 0;      ///< sub-function
-    unsigned char m_uchDTCType = 0;          ///< type of the code
+    unsigned char m_uchFFDId = 0;            ///< ID of the freeze frame
+    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers of the freeze frame
+    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers of the freeze frame
+    krm_ulong m_ulDTC = 0;                   ///< number of the trouble code that the freeze frame belongs to
+    CKRMList<unsigned short> m_cPidId;       ///< parameter IDs (PIDs) asked for
+    unsigned char m_uchSubFunction = 0;      ///< sub-function to read with; the codes are the engine's
+    unsigned char m_uchDTCType = 0;          ///< type of the trouble code; the codes are the engine's
 };
 
-/// Answers with the freeze frame's items.
+/// Answers GetFFD with the freeze frame's items.
 class KRM_API CKRMCGetFFDCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetFFDCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetFFD"> {
 public:
     void Dump(const krm::MessageLines& line);
 
     bool m_bMultiFFD = false;            ///< there are several freeze frames
-    signed char m_chBegin = 0;           ///< begin of the range
-    krm_long m_lBegin = 0;               ///< begin of the range, 32 bits wide
-    signed char m_chEnd = 0;             ///< end of the range
-    krm_long m_lEnd = 0;                 ///< end of the range, 32 bits wide
-    CKRMList<CKRMCCommandFFDData> Data;  ///< the items
+    signed char m_chBegin = 0;           ///< begin of the range of freeze frames; its meaning is the engine's
+    krm_long m_lBegin = 0;               ///< begin of the range in 32 bits; its meaning is the engine's
+    signed char m_chEnd = 0;             ///< end of the range of freeze frames; its meaning is the engine's
+    krm_long m_lEnd = 0;                 ///< end of the range in 32 bits; its meaning is the engine's
+    CKRMList<CKRMCCommandFFDData> Data;  ///< items of the freeze frame
 };
 
-/// Asks whether a trouble code has several freeze frames.
+/// IsMultiFFD asks whether a trouble code has several freeze frames.
 class KRM_API CKRMCIsMultiFFDCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCIsMultiFFDCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "IsMultiFFD"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    unsigned char m_uchPhaseType = 0;        ///< phase of the code
-    unsigned char m_uchFFDId = 0;            ///< freeze-frame ID
-    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers
-    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers
-    krm_ulong m_ulDTC = 0;                   ///< the trouble code
+    unsigned char m_uchPhaseType = 0;        ///< phase of the code; the codes are the engine's
+    unsigned char m_uchFFDId = 0;            ///< ID of the freeze frame
+    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers of the freeze frame
+    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers of the freeze frame
+    krm_ulong m_ulDTC = 0;                   ///< number of the trouble code
 };
 
-/// Answers whether it has.
+/// Answers IsMultiFFD with a flag for several freeze frames and their type.
 class KRM_API CKRMCIsMultiFFDCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCIsMultiFFDCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "IsMultiFFD"> {
 public:
     void Dump(const krm::MessageLines& line);
 
     bool m_bMultiFFD = false;     ///< there are several freeze frames
-    signed char m_chFFDType = 0;  ///< freeze-frame type
+    signed char m_chFFDType = 0;  ///< type of the freeze frames; the codes are the engine's
 };
 
-/// Asks for the systems whose freeze frames have an absolute time.
+/// IsAbsFFD asks for the systems with absolute freeze-frame data.
 class KRM_API CKRMCIsAbsFFDCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCIsAbsFFDCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "IsAbsFFD"> {};
 
-/// Answers with the systems.
+/// Answers IsAbsFFD with the systems.
 class KRM_API CKRMCIsAbsFFDCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCIsAbsFFDCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "IsAbsFFD"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    unsigned char m_uchType = 0;            ///< type
-    CKRMList<CKRMCCommandAbsFFDData> Data;  ///< the systems
+    unsigned char m_uchType = 0;            ///< type of the answer; the codes are the engine's
+    CKRMList<CKRMCCommandAbsFFDData> Data;  ///< systems with absolute freeze-frame data
 };
 
-/// Asks for the ECU's current time.
+/// GetCurrentTimeInfo asks for the ECU's current time.
 class KRM_API CKRMCGetCurrentTimeInfoCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetCurrentTimeInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetCurrentTimeInfo"> {};
 
-/// Answers with the trip time and the time since ignition-on.
+/// Answers GetCurrentTimeInfo with the trip time and the time since ignition-on.
 class KRM_API CKRMCGetCurrentTimeInfoCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetCurrentTimeInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetCurrentTimeInfo"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    bool m_bSupport = false;               ///< the ECU has a time
-    bool m_bTripTime = false;              ///< the trip time is there
+    bool m_bSupport = false;               ///< the ECU has such times
+    bool m_bTripTime = false;              ///< m_cTripTime is there
     bool m_bFailTripTime = false;          ///< reading the trip time failed
-    CKRMCCommandFFDData m_cTripTime;       ///< trip time
-    bool m_bAfterIgOnTime = false;         ///< the time since ignition-on is there
+    CKRMCCommandFFDData m_cTripTime;       ///< trip time, as a freeze-frame item
+    bool m_bAfterIgOnTime = false;         ///< m_cAfterIgOnTime is there
     bool m_bFailAfterIgOnTime = false;     ///< reading the time since ignition-on failed
-    CKRMCCommandFFDData m_cAfterIgOnTime;  ///< time since ignition-on
+    CKRMCCommandFFDData m_cAfterIgOnTime;  ///< time since ignition-on, as a freeze-frame item
 };
 
-/// Asks for the absolute times of trip times.
+/// GetAbsoluteTimeInfo asks for the absolute times of trip times.
 class KRM_API CKRMCGetAbsoluteTimeInfoCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetAbsoluteTimeInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetAbsoluteTimeInfo"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCEcuSpecificInfo> m_cTargetEcuList;  ///< the ECUs to ask
-    CKRMList<CKRMCCommandFFDData> m_cTripTimeList;    ///< the trip times
+    CKRMList<CKRMCEcuSpecificInfo> m_cTargetEcuList;  ///< ECUs to ask
+    CKRMList<CKRMCCommandFFDData> m_cTripTimeList;    ///< trip times, as freeze-frame items
 };
 
-/// Answers with the absolute times.
+/// Answers GetAbsoluteTimeInfo with the absolute times.
 class KRM_API CKRMCGetAbsoluteTimeInfoCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetAbsoluteTimeInfoCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetAbsoluteTimeInfo"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCEcuSpecificInfo> m_cCommEcuList;            ///< the ECUs that answered
-    CKRMList<CKRMCAbsoluteTimeInfo> m_cAbsoluteTimeInfoList;  ///< the absolute times
+    CKRMList<CKRMCEcuSpecificInfo> m_cCommEcuList;            ///< ECUs that communicated
+    CKRMList<CKRMCAbsoluteTimeInfo> m_cAbsoluteTimeInfoList;  ///< absolute times
 };
 
 #endif  // KRM_MESSAGES_DIAG_FREEZE_FRAMES_H_

@@ -5,13 +5,14 @@
 #include "krm/core/list.h"
 #include "krm/core/types.h"
 
-/// One configuration parameter of SAE J2534 and its value. The message that holds it writes its log lines.
+/// A configuration parameter of SAE J2534 and its value. Has no dump: the message that holds it writes its fields.
 class KRM_API CKRMCCommandJ2534Config {
 public:
+    /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandJ2534Config(); }
 
-    krm_ulong m_ulParameter = 0;
-    krm_ulong m_ulValue = 0;
+    krm_ulong m_ulParameter = 0;  ///< number of the parameter, as SAE J2534 gives it
+    krm_ulong m_ulValue = 0;      ///< value, in the parameter's unit by SAE J2534
 };
 extern template class CKRMList<CKRMCCommandJ2534Config>;
 

@@ -1,4 +1,4 @@
-// Results of the on-board monitor.
+// The on-board monitor: which monitors an ECU has, and the results of their tests.
 #ifndef KRM_MESSAGES_DIAG_ON_BOARD_MONITOR_H_
 #define KRM_MESSAGES_DIAG_ON_BOARD_MONITOR_H_
 
@@ -14,22 +14,22 @@ class KRM_API CKRMCCommandOnBoardMonitorInfo : public krm::RecordOf<CKRMCCommand
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushId = 0;                   ///< test ID
-    CKRMString m_strName;                         ///< test name
+    unsigned short m_ushId = 0;                   ///< test ID; the IDs are the engine's
+    CKRMString m_strName;                         ///< text of the test's name
     krm_ulong m_ulDescriptionId = 0;              ///< words ID of the description
-    CKRMString m_strDescription;                  ///< description
-    CKRMString m_strScalingId;                    ///< scaling identifier
+    CKRMString m_strDescription;                  ///< text of the description
+    CKRMString m_strScalingId;                    ///< identifier of the scaling
     krm_ulong m_ulUnitPhysId = 0;                 ///< words ID of the physical unit
-    CKRMString m_strUnitPhys;                     ///< physical unit
+    CKRMString m_strUnitPhys;                     ///< text of the physical unit
     krm_ulong m_ulUnitId = 0;                     ///< words ID of the display unit
-    CKRMString m_strUnit;                         ///< display unit
-    unsigned char m_uchDataType = 0;              ///< data type of the value, as the converters take it
-    unsigned char m_uchDecPntCount = 0;           ///< decimal places
+    CKRMString m_strUnit;                         ///< text of the display unit
+    unsigned char m_uchDataType = 0;              ///< type of the value, as CreateConverter takes it
+    unsigned char m_uchDecPntCount = 0;           ///< decimal places of the physical value
     unsigned char m_uchUnitConvDecPntCount = 0;   ///< decimal places after unit conversion
-    CKRMCCommandConversionData m_cConversionTbl;  ///< conversion of the value
-    CKRMCCommandDispData m_cTestValData;          ///< test value
-    CKRMCCommandDispData m_cTestMinData;          ///< lower limit
-    CKRMCCommandDispData m_cTestMaxData;          ///< upper limit
+    CKRMCCommandConversionData m_cConversionTbl;  ///< conversion of the values
+    CKRMCCommandDispData m_cTestValData;          ///< value that the test gave
+    CKRMCCommandDispData m_cTestMinData;          ///< lower limit of the test
+    CKRMCCommandDispData m_cTestMaxData;          ///< upper limit of the test
     bool m_bResult = false;                       ///< the test was passed
 };
 extern template class CKRMList<CKRMCCommandOnBoardMonitorInfo>;
@@ -40,29 +40,29 @@ class KRM_API CKRMCOnBoardMonitorCmdAdaptDataSnd
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<unsigned char> m_uchMIDList;  ///< monitor IDs (MID) to run
+    CKRMList<unsigned char> m_uchMIDList;  ///< monitor IDs (MIDs) to run
 };
 
-/// Answers with the results.
+/// Answers OnBoardMonitor with the results.
 class KRM_API CKRMCOnBoardMonitorCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCOnBoardMonitorCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "OnBoardMonitor"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandOnBoardMonitorInfo> Data;  ///< results
+    CKRMList<CKRMCCommandOnBoardMonitorInfo> Data;  ///< results, each with its limits
 };
 
-/// OnBoardMonitorList asks which on-board monitors an ECU has.
+/// OnBoardMonitorList asks for the on-board monitors that an ECU has.
 class KRM_API CKRMCOnBoardMonitorListCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCOnBoardMonitorListCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "OnBoardMonitorList"> {};
 
-/// Answers with the monitors.
+/// Answers OnBoardMonitorList with the monitors.
 class KRM_API CKRMCOnBoardMonitorListCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCOnBoardMonitorListCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "OnBoardMonitorList"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<unsigned char> m_uchMIDList;  ///< supported monitor IDs (MID)
+    CKRMList<unsigned char> m_uchMIDList;  ///< supported monitor IDs (MIDs)
 };
 
 #endif  // KRM_MESSAGES_DIAG_ON_BOARD_MONITOR_H_

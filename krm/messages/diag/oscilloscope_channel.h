@@ -1,4 +1,4 @@
-// A channel of the oscilloscope, as the data monitor is started with it and the oscilloscope lists it.
+// A channel of the oscilloscope, as the data monitor is started with it.
 #ifndef KRM_MESSAGES_DIAG_OSCILLOSCOPE_CHANNEL_H_
 #define KRM_MESSAGES_DIAG_OSCILLOSCOPE_CHANNEL_H_
 
@@ -6,13 +6,14 @@
 #include "krm/core/types.h"
 #include "krm/framework/record.h"
 
-/// An oscilloscope channel with the voltage range that is chosen for it.
+/// An oscilloscope channel with the voltage range that is chosen for it. Has a dump of its own, but
+/// StartDataMonitor writes its fields.
 class KRM_API CKRMCCommandOscInfo : public krm::RecordOf<CKRMCCommandOscInfo> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushChId = 0;  ///< channel ID
-    krm_ulong m_ulVolId = 0;       ///< voltage range ID
+    unsigned short m_ushChId = 0;  ///< channel ID, one of those that GetOscilloscopeList answers with
+    krm_ulong m_ulVolId = 0;       ///< ID of its voltage range
 };
 extern template class CKRMList<CKRMCCommandOscInfo>;
 

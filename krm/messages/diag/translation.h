@@ -1,6 +1,6 @@
-// The translation of words IDs into the user's language, as a diagnostic command.
+// The translation of words IDs, as a diagnostic command.
 //
-// The words-table family asks the same question without an ECU; its messages live in krm/messages/auxiliary/.
+// The words table family asks the same question without an ECU: krm/messages/auxiliary/words_table.h.
 #ifndef KRM_MESSAGES_DIAG_TRANSLATION_H_
 #define KRM_MESSAGES_DIAG_TRANSLATION_H_
 
@@ -9,36 +9,35 @@
 #include "krm/framework/message.h"
 #include "krm/platform/platform.h"
 
-/// A words ID and its text in the user's language. A plain value without a dump: the message that holds it writes its
-/// fields, as `ID` and `String`.
+/// A words ID and its translation. Has no dump: the message that holds it writes its fields, as `ID` and `String`.
 class KRM_API CKRMCCommandTranslationStringData {
 public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandTranslationStringData(); }
 
-    krm_ulong m_ulId = 0;    ///< words ID
-    CKRMString m_strString;  ///< its translation
+    krm_ulong m_ulId = 0;    ///< words ID; logged under the name ID
+    CKRMString m_strString;  ///< translation of that ID; logged under the name String
 };
 extern template class CKRMList<CKRMCCommandTranslationStringData>;
 
-/// Asks for the translations of words IDs.
+/// GetTranslationString asks for the translations of words IDs.
 class KRM_API CKRMCGetTranslationStringCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetTranslationStringCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd,
                             "GetTranslationString"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<krm_ulong> m_ulIdList;  ///< the words IDs
+    CKRMList<krm_ulong> m_ulIdList;  ///< words IDs to translate
 };
 
-/// Answers with the translations.
+/// Answers GetTranslationString with the translations.
 class KRM_API CKRMCGetTranslationStringCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetTranslationStringCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv,
                             "GetTranslationString"> {
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<CKRMCCommandTranslationStringData> m_cTranslationStringDataList;  ///< the translations
+    CKRMList<CKRMCCommandTranslationStringData> m_cTranslationStringDataList;  ///< words IDs with their translations
 };
 
 #endif  // KRM_MESSAGES_DIAG_TRANSLATION_H_

@@ -8,44 +8,44 @@
 #include "krm/messages/diag/freeze_frame_item.h"
 #include "krm/platform/platform.h"
 
-/// One trouble code: its texts, kind and status, and the times at which it was stored.
+/// One trouble code: its texts, kind and status, and three embedded time items.
 class KRM_API CKRMCCommandDTCData : public krm::RecordOf<CKRMCCommandDTCData> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned char m_uchDTCKind = 0;        ///< kind of code
-    krm_ulong m_ulDTCCode = 0;             ///< the code as a number; logged in decimal
-    CKRMString m_strDTC;                   ///< the code as displayed
+    unsigned char m_uchDTCKind = 0;        ///< kind of code; the codes are the engine's
+    krm_ulong m_ulDTCCode = 0;             ///< code as a number; logged in decimal
+    CKRMString m_strDTC;                   ///< code as displayed
     krm_ulong m_ulDTCNameId = 0;           ///< words ID of the code's name
-    CKRMString m_strDTCName;               ///< the code's name
+    CKRMString m_strDTCName;               ///< text of the code's name
     krm_ulong m_ulDTCDivNameId = 0;        ///< words ID of the division's name
-    CKRMString m_strDTCDivName;            ///< the division's name
-    signed char m_chFFDType = 0;           ///< freeze-frame type
-    unsigned char m_uchFFDId = 0;          ///< freeze-frame ID
-    CKRMString m_strComment;               ///< comment
-    CKRMList<unsigned char> m_uchSSRNo;    ///< SSR numbers
-    CKRMList<unsigned char> m_uchSDRNo;    ///< SDR numbers
-    unsigned char m_uchDTCType = 0;        ///< type of the code
+    CKRMString m_strDTCDivName;            ///< text of the division's name
+    signed char m_chFFDType = 0;           ///< type of its freeze frames; the codes are the engine's
+    unsigned char m_uchFFDId = 0;          ///< ID of its freeze frame
+    CKRMString m_strComment;               ///< comment on the code
+    CKRMList<unsigned char> m_uchSSRNo;    ///< list of SSR numbers, of any length
+    CKRMList<unsigned char> m_uchSDRNo;    ///< list of SDR numbers, of any length
+    unsigned char m_uchDTCType = 0;        ///< type of the code; the types are the engine's
     krm_ulong m_ulDTCTypeNameId = 0;       ///< words ID of the type's name
-    CKRMString m_strDTCTypeName;           ///< the type's name
+    CKRMString m_strDTCTypeName;           ///< text of the type's name
     krm_ulong m_ulDTCTypeToolId = 0;       ///< words ID of the type's text for the tool
-    CKRMString m_strDTCTypeTool;           ///< the type's text for the tool
-    unsigned char m_uchDTCStatus = 0;      ///< status of the code
-    krm_ulong m_ulDTCStatusNameId = 0;     ///< words ID of the status' name
-    CKRMString m_strDTCStatusName;         ///< the status' name
-    krm_ulong m_ulDTCStatusToolId = 0;     ///< words ID of the status' text for the tool
-    CKRMString m_strDTCStatusTool;         ///< the status' text for the tool
-    bool m_bTripTime = false;              ///< the trip time is there
+    CKRMString m_strDTCTypeTool;           ///< text of the type for the tool
+    unsigned char m_uchDTCStatus = 0;      ///< status of the code; the statuses are the engine's
+    krm_ulong m_ulDTCStatusNameId = 0;     ///< words ID of the status's name
+    CKRMString m_strDTCStatusName;         ///< text of the status's name
+    krm_ulong m_ulDTCStatusToolId = 0;     ///< words ID of the status's text for the tool
+    CKRMString m_strDTCStatusTool;         ///< text of the status for the tool
+    bool m_bTripTime = false;              ///< m_cTripTime is there
     bool m_bFailTripTime = false;          ///< reading the trip time failed
-    CKRMCCommandFFDData m_cTripTime;       ///< trip time
-    bool m_bAfterIgOnTime = false;         ///< the time since ignition-on is there
+    CKRMCCommandFFDData m_cTripTime;       ///< trip time, as a freeze-frame item
+    bool m_bAfterIgOnTime = false;         ///< m_cAfterIgOnTime is there
     bool m_bFailAfterIgOnTime = false;     ///< reading the time since ignition-on failed
-    CKRMCCommandFFDData m_cAfterIgOnTime;  ///< time since ignition-on
-    krm_ulong m_ulOriginalCountId = 0;     ///< count ID
-    CKRMCCommandFFDData m_cClockType;      ///< type of the clock
+    CKRMCCommandFFDData m_cAfterIgOnTime;  ///< time since ignition-on, as a freeze-frame item
+    krm_ulong m_ulOriginalCountId = 0;     ///< ID of the count; the IDs are the engine's
+    CKRMCCommandFFDData m_cClockType;      ///< type of the clock, as a freeze-frame item
     bool m_bStatusOfDTC = false;           ///< m_uchStatusOfDTC is valid
-    unsigned char m_uchStatusOfDTC = 0;    ///< raw status byte of the code
-    krm_ulong m_ulDTCGroupId = 0;          ///< group ID
+    unsigned char m_uchStatusOfDTC = 0;    ///< status byte as the ECU sent it
+    krm_ulong m_ulDTCGroupId = 0;          ///< group of the code; the IDs are the engine's
 };
 extern template class CKRMList<CKRMCCommandDTCData>;
 

@@ -1,4 +1,4 @@
-// An entry of the vocabulary, which other records carry. Its messages are in translation.h.
+// An entry of the vocabulary, which other records carry. The command that translates words IDs is in translation.h.
 #ifndef KRM_MESSAGES_DIAG_WORDS_H_
 #define KRM_MESSAGES_DIAG_WORDS_H_
 
@@ -7,13 +7,13 @@
 #include "krm/framework/record.h"
 #include "krm/platform/platform.h"
 
-/// One entry of the vocabulary: a words ID and its text.
+/// One entry of the vocabulary. Logs the ID unsigned, where other records log words IDs as signed numbers.
 class KRM_API CKRMCCommandWordsData : public krm::RecordOf<CKRMCCommandWordsData> {
 public:
     void Dump(const krm::RecordLines& line);
 
     krm_ulong m_ulWordsId = 0;  ///< words ID
-    CKRMString m_strWords;      ///< its text
+    CKRMString m_strWords;      ///< text of that ID
 };
 extern template class CKRMList<CKRMCCommandWordsData>;
 

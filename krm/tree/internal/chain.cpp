@@ -190,7 +190,7 @@ private:
     std::string m_text;  // what is not yet in m_out
     std::vector<Holder> m_open;
     CKRMCNode* m_node = nullptr;  // the next to describe; null at the end of a chain
-    krm_ulong m_result = 0;       // of the last description in documented order
+    krm_ulong m_result = 0;       // of the last description in the order of the text
 };
 
 krm_ulong Chain::Describe(CKRMCElement& element, CKRMString& out) {

@@ -1,5 +1,7 @@
 // What the library needs of the four libraries that it builds on: strings and lists of numbers, the base of every
-// message, the error object and the writer of the operation log.
+// message, the error object and the writer of the operation log. Slots and layouts are in docs/interface.md.
+//
+// It may include krm/core/ alone.
 //
 // krm::platform implements just this, so that the library builds and runs anywhere. Whoever has the real libraries
 // links them instead: -DKRM_PLATFORM_TARGET=<CMake target>.
@@ -24,21 +26,21 @@ public:
     /// A copy of `text` up to its NUL; null gives an empty string.
     CKRMString(const char* text);  // NOLINT: a text converts by itself
 
-    CKRMString& operator=(const char* text);
-    CKRMString& operator+=(const char* text);
-    CKRMString& operator+=(const CKRMString& other);
-    CKRMString(const CKRMString&) = default;
-    CKRMString(CKRMString&&) noexcept = default;
-    CKRMString& operator=(const CKRMString&) = default;
-    CKRMString& operator=(CKRMString&&) noexcept = default;
-    ~CKRMString() = default;
+    CKRMString& operator=(const char* text);                 ///< a copy of `text`; null makes the string empty
+    CKRMString& operator+=(const char* text);                ///< appends a copy of `text`; null appends nothing
+    CKRMString& operator+=(const CKRMString& other);         ///< appends a copy of `other`, which may be this string
+    CKRMString(const CKRMString&) = default;                 ///< a copy of its own
+    CKRMString(CKRMString&&) noexcept = default;             ///< takes the text over
+    CKRMString& operator=(const CKRMString&) = default;      ///< a copy of its own
+    CKRMString& operator=(CKRMString&&) noexcept = default;  ///< takes the text over
+    ~CKRMString() = default;                                 ///< frees the text
 
     /// Appends, as `+=` does.
     CKRMString& Combine(const char* text);
-    CKRMString& Combine(const CKRMString& other);
+    CKRMString& Combine(const CKRMString& other);  ///< the same with a string
     /// Replaces the text, as `=` does.
     CKRMString& Copy(const char* text);
-    CKRMString& Copy(const CKRMString& other);
+    CKRMString& Copy(const CKRMString& other);  ///< the same with a string
 
     /// Compares bytes: 0 when equal, else the sign tells which comes first. A null text compares as an empty one.
     int Compare(const char* text) const;
@@ -50,6 +52,7 @@ public:
     /// process locale; however long it gets. The arguments may be texts of this very string. A null `format` is empty,
     /// a null text argument prints as "(null)", and "%n" prints and writes nothing.
     void Format(const char* format, ...) KRM_PRINTF_LIKE(2, 3);
+    /// The same with the arguments as a list, which is used up.
     void FormatV(const char* format, std::va_list arguments) KRM_PRINTF_LIKE(2, 0);
 
     /// The text, never null, valid until the string changes or dies.
@@ -76,8 +79,8 @@ class CKRMMap<CKRMString, CKRMString> {
     using Entries = std::map<CKRMString, CKRMString, Before>;
 
 public:
-    using iterator = Entries::iterator;
-    using const_iterator = Entries::const_iterator;
+    using iterator = Entries::iterator;              ///< of pairs whose values may be changed
+    using const_iterator = Entries::const_iterator;  ///< of pairs
 
     /// Sets the value of `key`, adding the key where it is new.
     void SetAt(const CKRMString& key, const CKRMString& value) { m_entries.insert_or_assign(key, value); }
@@ -94,15 +97,18 @@ public:
     CKRMString& operator[](const CKRMString& key) { return m_entries[key]; }
     /// Removes `key`; false where it is not there.
     bool RemoveKey(const CKRMString& key) { return m_entries.erase(key) != 0; }
+    /// Removes all keys with their values.
     void RemoveAll() { m_entries.clear(); }
+    /// The number of keys.
     int GetCount() const { return static_cast<int>(m_entries.size()); }
+    /// Whether there is no key.
     bool IsEmpty() const { return m_entries.empty(); }
 
     // Walks the pairs (first: key, second: value) in the order of their keys.
-    iterator begin() { return m_entries.begin(); }
-    iterator end() { return m_entries.end(); }
-    const_iterator begin() const { return m_entries.begin(); }
-    const_iterator end() const { return m_entries.end(); }
+    iterator begin() { return m_entries.begin(); }              ///< the lowest key
+    iterator end() { return m_entries.end(); }                  ///< behind the highest key
+    const_iterator begin() const { return m_entries.begin(); }  ///< the lowest key
+    const_iterator end() const { return m_entries.end(); }      ///< behind the highest key
 
 private:
     Entries m_entries;
@@ -116,17 +122,22 @@ extern template class CKRMList<krm_ulong>;
 /// Base of every message: which family (command type) and which command (command ID) it belongs to.
 class KRM_PLATFORM_API CKRMBaseAdaptationData {
 public:
-    CKRMBaseAdaptationData() = default;
-    CKRMBaseAdaptationData(const CKRMBaseAdaptationData&) = default;
-    CKRMBaseAdaptationData& operator=(const CKRMBaseAdaptationData&) = default;
+    CKRMBaseAdaptationData() = default;                                          ///< as after Clear
+    CKRMBaseAdaptationData(const CKRMBaseAdaptationData&) = default;             ///< type, ID and status
+    CKRMBaseAdaptationData& operator=(const CKRMBaseAdaptationData&) = default;  ///< type, ID and status
+    /// For deleting a message through its base.
     virtual ~CKRMBaseAdaptationData();
 
     /// Resets type, ID and status to 0.
     virtual void Clear();
 
+    /// The family: 1, 2, 8, 10 or 14; see krm::CommandFamily.
     krm_ulong GetCommandType() const { return m_dwCommandType; }
+    /// Each message sets its own; a caller has no reason to.
     void SetCommandType(krm_ulong type) { m_dwCommandType = type; }
+    /// The command within the family; see krm::kCommands.
     krm_ulong GetCommandID() const { return m_dwCommandID; }
+    /// Each message sets its own; Clear restores it.
     void SetCommandID(krm_ulong id) { m_dwCommandID = id; }
 
 private:
@@ -138,9 +149,10 @@ private:
 /// What went wrong, as the failing operation reports it.
 class KRM_PLATFORM_API CKRMError {
 public:
-    CKRMError() = default;
-    CKRMError(const CKRMError&) = default;
-    CKRMError& operator=(const CKRMError&) = default;
+    CKRMError() = default;                             ///< code 0, details empty
+    CKRMError(const CKRMError&) = default;             ///< the code and all details
+    CKRMError& operator=(const CKRMError&) = default;  ///< the code and all details
+    /// For deleting an error of a derived class.
     virtual ~CKRMError();
 
     /// Sets the code and its five details: module, class, function, the function's arguments, message.
@@ -151,12 +163,12 @@ public:
     /// Sets the code alone; the details stay.
     virtual void SetErrorCode(krm_ulong code);
 
-    krm_ulong a_ulReturnCode = 0;
-    CKRMString a_strErrorModuleName;
-    CKRMString a_strErrorClassName;
-    CKRMString a_strErrorFunctionName;
-    CKRMString a_strErrorFunctionArgs;
-    CKRMString a_strMessage;
+    krm_ulong a_ulReturnCode = 0;       ///< the code; 0 is success
+    CKRMString a_strErrorModuleName;    ///< library or program that failed
+    CKRMString a_strErrorClassName;     ///< class that failed
+    CKRMString a_strErrorFunctionName;  ///< function that failed
+    CKRMString a_strErrorFunctionArgs;  ///< what that function was called with
+    CKRMString a_strMessage;            ///< text for people
 };
 
 /// Receives each line of the operation log with the arguments of KRMC_ER_WriteOperationLog. `text` is valid during the
