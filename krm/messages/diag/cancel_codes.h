@@ -37,15 +37,15 @@ public:
 };
 extern template class CKRMList<CKRMCCommandCancelCodeData>;
 
-/// A category of cancel codes and its warning. Logs its IDs unsigned.
+/// A category of cancel codes and its warning.
 class KRM_API CKRMCCommandCancelCodeCategoryInfo : public krm::RecordOf<CKRMCCommandCancelCodeCategoryInfo> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushCategoryId = 0;  ///< ID of the category, as GetCancelCode carries it
-    krm_ulong m_ulCategoryNameId = 0;    ///< words ID of the category's name
+    unsigned short m_ushCategoryId = 0;  ///< ID of the category, as GetCancelCode carries it; logged unsigned
+    krm_ulong m_ulCategoryNameId = 0;    ///< words ID of the category's name; logged unsigned
     CKRMString m_strCategoryName;        ///< text of the category's name
-    krm_ulong m_ulWarningMessageId = 0;  ///< words ID of the warning
+    krm_ulong m_ulWarningMessageId = 0;  ///< words ID of the warning; logged unsigned
     CKRMString m_strWarningMessage;      ///< text of the warning
 };
 extern template class CKRMList<CKRMCCommandCancelCodeCategoryInfo>;

@@ -25,7 +25,7 @@ class KRM_API CKRMCReadMemoryCmdAdaptDataSnd
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMList<krm_ulong> m_ulAddressList;  ///< memory addresses, one per byte
+    CKRMList<krm_ulong> m_ulAddressList;  ///< memory addresses, one per byte; logged in hexadecimal
 };
 
 /// Answers ReadMemory with a record per address.

@@ -136,8 +136,8 @@ class KRM_API CKRMCCommandVehicleInfoData : public krm::RecordOf<CKRMCCommandVeh
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushVehicleInfoId = 0;  ///< kind of information
-    krm_ulong m_ulVehicleInfo = 0;          ///< value chosen; the codes are the engine's
+    unsigned short m_ushVehicleInfoId = 0;  ///< kind of information; logged unsigned
+    krm_ulong m_ulVehicleInfo = 0;          ///< value chosen; the codes are the engine's; logged unsigned
     CKRMString m_strVehicleInfo;            ///< text of the value
 };
 extern template class CKRMList<CKRMCCommandVehicleInfoData>;
@@ -147,7 +147,7 @@ class KRM_API CKRMCCommandVehicleInfoSelectData : public krm::RecordOf<CKRMCComm
 public:
     void Dump(const krm::RecordLines& line);
 
-    unsigned short m_ushVehicleInfoId = 0;                             ///< kind of information
+    unsigned short m_ushVehicleInfoId = 0;                             ///< kind of information; logged unsigned
     CKRMList<CKRMCCommandVehicleInfoData> m_cVehicleInfoContentsList;  ///< possible choices
 };
 extern template class CKRMList<CKRMCCommandVehicleInfoSelectData>;
@@ -157,7 +157,7 @@ class KRM_API CKRMCCommandVehicleSystemInfo : public krm::RecordOf<CKRMCCommandV
 public:
     void Dump(const krm::RecordLines& line);
 
-    krm_ulong m_ulInfoId = 0;                       ///< kind of information
+    krm_ulong m_ulInfoId = 0;                       ///< kind of information; logged unsigned
     CKRMList<CKRMCCommandVariantData> m_cInfoData;  ///< its values
 };
 extern template class CKRMList<CKRMCCommandVehicleSystemInfo>;
@@ -433,7 +433,7 @@ class KRM_API CKRMCGetVehicleSystemInfoCmdAdaptDataSnd
 public:
     void Dump(const krm::MessageLines& line);
 
-    krm_ulong m_ulSystemId = 0;  ///< system that is asked about
+    krm_ulong m_ulSystemId = 0;  ///< system that is asked about; logged unsigned
 };
 
 /// Answers GetVehicleSystemInfo with the information.

@@ -7,12 +7,12 @@
 #include "krm/framework/record.h"
 #include "krm/platform/platform.h"
 
-/// One entry of the vocabulary. Logs the ID unsigned, where other records log words IDs as signed numbers.
+/// One entry of the vocabulary.
 class KRM_API CKRMCCommandWordsData : public krm::RecordOf<CKRMCCommandWordsData> {
 public:
     void Dump(const krm::RecordLines& line);
 
-    krm_ulong m_ulWordsId = 0;  ///< words ID
+    krm_ulong m_ulWordsId = 0;  ///< words ID; logged unsigned
     CKRMString m_strWords;      ///< text of that ID
 };
 extern template class CKRMList<CKRMCCommandWordsData>;
