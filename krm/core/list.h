@@ -137,11 +137,11 @@ private:
 template <class Element>
 class CKRMListIterator {
 public:
-    using iterator_category = std::forward_iterator_tag;
-    using value_type = std::remove_const_t<Element>;
-    using difference_type = std::ptrdiff_t;
-    using pointer = Element*;
-    using reference = Element&;
+    using iterator_category = std::forward_iterator_tag;  ///< what algorithms may count on
+    using value_type = std::remove_const_t<Element>;      ///< the list's element type
+    using difference_type = std::ptrdiff_t;               ///< of two iterators; asked for by algorithms
+    using pointer = Element*;                             ///< what `->` gives
+    using reference = Element&;                           ///< what `*` gives
 
     /// The end of every list.
     CKRMListIterator() = default;

@@ -110,8 +110,8 @@ inline constexpr Command kCommands[] = {
 };
 
 // Called for what doesn't fit the table. Not constexpr, so that the compiler stops there and shows the name.
-void NoSuchCommandInTheTable();
-void TheTableHasThisCommandAlready();
+void NoSuchCommandInTheTable();        ///< a name without an ID that the family doesn't have
+void TheTableHasThisCommandAlready();  ///< an own name or ID that the family has
 
 /// The ID of the command `name` of `family`; an unknown name doesn't compile.
 consteval krm_ulong CommandId(CommandFamily family, std::string_view name) {

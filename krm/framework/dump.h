@@ -40,11 +40,11 @@ enum class FieldKind {
 /// The element type of a list; void for what is no list.
 template <class T>
 struct ListElement {
-    using Type = void;
+    using Type = void;  ///< no list
 };
 template <class T>
 struct ListElement<CKRMList<T>> {
-    using Type = T;
+    using Type = T;  ///< what the list holds
 };
 
 /// A number that the log can show.
@@ -74,11 +74,11 @@ consteval FieldKind KindOf() {
 }
 
 // Called when a literal doesn't fit its field. Not constexpr, so that the compiler stops there and shows the name.
-void TheLineMustBeginWithItsPrefixPlaceholder();
-void TheLineMustHaveOneIndexInBracketsPerLevelAndList();
-void TheConversionDoesNotFitTheField();
-void TheLineHasAConversionTooMany();
-void ARecordWritesItsOwnValues();
+void TheLineMustBeginWithItsPrefixPlaceholder();          ///< neither "%s" nor "[%s]" in front
+void TheLineMustHaveOneIndexInBracketsPerLevelAndList();  ///< an index is missing or not in brackets
+void TheConversionDoesNotFitTheField();                   ///< another letter than the field's type asks for
+void TheLineHasAConversionTooMany();                      ///< more conversions than indices and fields
+void ARecordWritesItsOwnValues();                         ///< "=" in the line of a record
 
 /// Takes "%s", "[%s]" off the front of `text`. Constexpr, not consteval: Clang 14 refuses a consteval helper here.
 constexpr void SkipPrefix(std::string_view& text) {

@@ -275,8 +275,9 @@ template <class Message, class Base, CommandName command>
 class MessageOf
     : public std::conditional_t<std::is_base_of_v<LoggedMessage, Base>, DumpOf<Message, Base, command.name>, Base> {
 public:
-    /// The type and ID that every object of this class has after construction and after Clear.
+    /// The type that every object of this class has after construction and after Clear.
     static constexpr krm_ulong kCommandType = static_cast<krm_ulong>(Base::kFamily);
+    /// The ID that every object of this class has after construction and after Clear.
     static constexpr krm_ulong kCommandId = command.IdIn(Base::kFamily);
 
     /// Restores type, ID, the base's member and every field to what the constructor sets.
@@ -288,6 +289,7 @@ public:
     }
 
 protected:
+    /// The base as it starts, with the command's ID.
     MessageOf() { this->SetCommandID(kCommandId); }
 };
 

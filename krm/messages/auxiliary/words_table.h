@@ -13,6 +13,7 @@
 /// An identifier that the words table is built for.
 class KRM_API CKRMCDiagWordsTableCreationData {
 public:
+    /// Virtual, as the interface has it; nothing derives from the record.
     virtual ~CKRMCDiagWordsTableCreationData();
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCDiagWordsTableCreationData(); }
@@ -25,6 +26,7 @@ extern template class CKRMList<CKRMCDiagWordsTableCreationData>;
 /// A words ID and its translation. Logged as `ID` and `String`.
 class KRM_API CKRMCDiagWordsTableTranslationStringData {
 public:
+    /// Virtual, as the interface has it; nothing derives from the record.
     virtual ~CKRMCDiagWordsTableTranslationStringData();
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCDiagWordsTableTranslationStringData(); }

@@ -159,7 +159,7 @@ class KRM_API CKRMCSetCustomizeDestinationCmdAdaptDataSnd
 public:
     void Dump(const krm::MessageLines& line);
 
-    CKRMString m_strDestinationCode;  ///< code of the destination, as the user gives it
+    CKRMString m_strDestinationCode;  ///< code of the destination to set
 };
 
 /// Answers SetCustomizeDestination with the outcome.

@@ -47,7 +47,7 @@ public:
     /// Restores the values of a new object.
     void Clear() { *this = CKRMCCommandStartDataMonitorData(); }
 
-    unsigned short m_ushDataMonitorId = 0;     ///< ID of the monitor, which polls it later
+    unsigned short m_ushDataMonitorId = 0;     ///< ID of the monitor, as GetDataMonitorValue carries it
     krm_ulong m_ulEcuId = 0;                   ///< ECU whose values are watched
     CKRMList<unsigned short> m_cPidIdList;     ///< parameter IDs (PIDs) to watch
     CKRMList<unsigned short> m_cSubPidIdList;  ///< stored, copied and cleared only; not logged
@@ -205,7 +205,7 @@ public:
     CKRMList<CKRMCCommandFFDData> Data;  ///< current values
 };
 
-/// GetHexModeInfo asks for the form in which memory addresses are shown.
+/// GetHexModeInfo asks for the settings of the hex mode.
 class KRM_API CKRMCGetHexModeInfoCmdAdaptDataSnd
     : public krm::MessageOf<CKRMCGetHexModeInfoCmdAdaptDataSnd, CKRMCBaseCmdAdaptDataSnd, "GetHexModeInfo"> {};
 

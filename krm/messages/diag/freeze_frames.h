@@ -21,7 +21,7 @@ public:
     krm_ulong m_ulSystemId = 0;    ///< system ID; the IDs are the engine's
     CKRMString m_strSystem;        ///< text of the system's name
     unsigned char m_uchFFDId = 0;  ///< freeze-frame ID
-    unsigned char m_uchIndex = 0;  ///< index of the freeze frame; its meaning is the engine's
+    unsigned char m_uchIndex = 0;  ///< index; its meaning is the engine's
 };
 extern template class CKRMList<CKRMCCommandAbsFFDData>;
 
@@ -30,8 +30,8 @@ class KRM_API CKRMCAbsoluteTimeInfo : public krm::RecordOf<CKRMCAbsoluteTimeInfo
 public:
     void Dump(const krm::RecordLines& line);
 
-    CKRMCCommandFFDData m_cTripTime;              ///< time by the trip counter
-    CKRMCCommandFFDData m_cInternalClock;         ///< time by the ECU's internal clock
+    CKRMCCommandFFDData m_cTripTime;              ///< trip time, as a freeze-frame item
+    CKRMCCommandFFDData m_cInternalClock;         ///< the ECU's internal clock, as a freeze-frame item
     CKRMCCommandFFDData m_cGPSTimeYear;           ///< GPS time: year
     CKRMCCommandFFDData m_cGPSTimeMonth;          ///< GPS time: month
     CKRMCCommandFFDData m_cGPSTimeDay;            ///< GPS time: day
@@ -62,8 +62,8 @@ public:
     void Dump(const krm::MessageLines& line);
 
     unsigned char m_uchFFDId = 0;            ///< ID of the freeze frame
-    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers of the freeze frame
-    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers of the freeze frame
+    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers, any number of them
+    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers, any number of them
     krm_ulong m_ulDTC = 0;                   ///< number of the trouble code that the freeze frame belongs to
     CKRMList<unsigned short> m_cPidId;       ///< parameter IDs (PIDs) asked for
     unsigned char m_uchSubFunction = 0;      ///< sub-function to read with; the codes are the engine's
@@ -77,9 +77,9 @@ public:
     void Dump(const krm::MessageLines& line);
 
     bool m_bMultiFFD = false;            ///< there are several freeze frames
-    signed char m_chBegin = 0;           ///< begin of the range of freeze frames; its meaning is the engine's
+    signed char m_chBegin = 0;           ///< begin of the range; its meaning is the engine's
     krm_long m_lBegin = 0;               ///< begin of the range in 32 bits; its meaning is the engine's
-    signed char m_chEnd = 0;             ///< end of the range of freeze frames; its meaning is the engine's
+    signed char m_chEnd = 0;             ///< end of the range; its meaning is the engine's
     krm_long m_lEnd = 0;                 ///< end of the range in 32 bits; its meaning is the engine's
     CKRMList<CKRMCCommandFFDData> Data;  ///< items of the freeze frame
 };
@@ -92,8 +92,8 @@ public:
 
     unsigned char m_uchPhaseType = 0;        ///< phase of the code; the codes are the engine's
     unsigned char m_uchFFDId = 0;            ///< ID of the freeze frame
-    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers of the freeze frame
-    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers of the freeze frame
+    CKRMList<unsigned char> m_uchSSRNoList;  ///< SSR numbers, any number of them
+    CKRMList<unsigned char> m_uchSDRNoList;  ///< SDR numbers, any number of them
     krm_ulong m_ulDTC = 0;                   ///< number of the trouble code
 };
 

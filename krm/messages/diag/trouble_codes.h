@@ -71,7 +71,7 @@ public:
     unsigned char m_uchGetFFDType = 0;  ///< which freeze frames are asked for; the codes are the engine's
 };
 
-/// Answers GetDTC with the trouble codes and their readiness.
+/// Answers GetDTC with the trouble codes and the readiness status.
 class KRM_API CKRMCGetDTCCmdAdaptDataRcv
     : public krm::MessageOf<CKRMCGetDTCCmdAdaptDataRcv, CKRMCBaseCmdAdaptDataRcv, "GetDTC"> {
 public:

@@ -33,7 +33,7 @@ public:
     krm_ulong m_ulNTA = 0;                      ///< network target address; logged as two hexadecimal digits
     krm_ulong m_ulToolAddr = 0;                 ///< address of the tool; logged in hexadecimal
     unsigned char m_uchSecurityTargetFlag = 0;  ///< not 0: the function is subject to security
-    krm_ulong m_ulSpecialFunctionKey = 0;       ///< special function key that the function needs
+    krm_ulong m_ulSpecialFunctionKey = 0;       ///< special function key of the function
     krm_ulong m_ulLegislatedAddr = 0;           ///< legislated address; logged in hexadecimal
     krm_ulong m_ulP3Min = 0;                    ///< timing P3min; its unit is the engine's
     krm_ulong m_ulStminTx = 0;                  ///< timing STmin when sending; its unit is the engine's
