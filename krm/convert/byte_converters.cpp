@@ -5,7 +5,7 @@
 
 #include "krm/convert/internal/numbers.h"
 
-using krm::kNullPointer;
+using krm::kNullArgument;
 
 bool CKRMCCommandConvSignalDataAscii::IsBinaryDataType() {
     return true;
@@ -16,7 +16,7 @@ krm_ulong CKRMCCommandConvSignalDataAscii::ConvCommandDispData(CKRMCCommandDispD
                                                                krm_long, krm_long, krm_long, unsigned char, krm_ulong,
                                                                krm_ulong, CKRMList<CKRMCCommandDispData>*) {
     if (!krm::convert::TakeFirstByte(record, data, dataLen)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     if (data[0] == 0) {
         record->m_strDataPhys = "-";
@@ -36,7 +36,7 @@ krm_ulong CKRMCCommandConvSignalDataArrayHex::ConvCommandDispData(CKRMCCommandDi
                                                                   krm_long, unsigned char, krm_ulong, krm_ulong,
                                                                   CKRMList<CKRMCCommandDispData>*) {
     if (!krm::convert::TakeFirstByte(record, data, dataLen)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     constexpr const char* kDigits = "0123456789ABCDEF";
     // Whole before it is appended: the bytes may be those of the record's own text.

@@ -9,7 +9,7 @@
 #include "krm/convert/internal/extended.h"
 #include "krm/convert/internal/numbers.h"
 
-using krm::kNullPointer;
+using krm::kNullArgument;
 using krm::convert::DecimalText;
 using krm::convert::Divides;
 using krm::convert::Extended;
@@ -70,7 +70,7 @@ krm_ulong CKRMCCommandConvSignalData::ConvCommandDispData(CKRMCCommandDispData* 
                                                           krm_long, krm_long, unsigned char, krm_ulong, krm_ulong,
                                                           CKRMList<CKRMCCommandDispData>*) {
     if (!krm::convert::TakeFirstByte(record, data, dataLen)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     krm::convert::AssignBytesAsText(record->m_strDataPhys, data, dataLen);
     return 0;
@@ -83,7 +83,7 @@ krm_ulong CKRMCCommandConvSignalData::ConvCommandDispData(CKRMCCommandDispData* 
                                                           krm_ulong ulMin, CKRMList<CKRMCCommandDispData>* patternList,
                                                           CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
     if (record == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     record->m_ulRawData = ulRawData;
     const krm_ulong status =
@@ -101,7 +101,7 @@ krm_ulong CKRMCCommandConvSignalData::ConvCommandDispVariableData(
     krm_long lMul, krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin,
     CKRMList<CKRMCCommandDispVariableData>* patternList, CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
     if (record == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     record->m_ulRawData = ulRawData;
     const krm_ulong status =
@@ -119,7 +119,7 @@ krm_ulong CKRMCCommandConvSignalData::ConvLogicalValue(krm_ulong* result, double
                                                        krm_long lOffset, unsigned char uchDecPntCount, double dMax,
                                                        double dMin) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     double clamped = value;
     if (dMax < value) {
@@ -153,7 +153,7 @@ krm_ulong CKRMCCommandConvSignalData::ConvLogicalValue(krm_ulong* result, double
                                                        krm_long lOffset, unsigned char uchDecPntCount, krm_ulong ulMax,
                                                        krm_ulong ulMin) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_int64 x = Truncate(Unscaled(value, lMul, lDiv, lOffset, uchDecPntCount));
     krm_int64 most = 0;
@@ -205,7 +205,7 @@ krm_ulong CKRMCCommandConvSignalData::PhysicalConversion(double* result, krm_ulo
                                                          unsigned short ushBitLength, krm_long lMul, krm_long lDiv,
                                                          krm_long lOffset, unsigned char uchDecPntCount) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     krm_int64 number = 0;
     const krm_ulong status = SignedConversion(&number, ulRawData, uchSigned, ushBitLength);
@@ -230,7 +230,7 @@ krm_ulong CKRMCCommandConvSignalData::PhysicalConversion(double* result, krm_ulo
 krm_ulong CKRMCCommandConvSignalData::SignedConversion(krm_int64* result, krm_ulong ulRawData, unsigned char uchSigned,
                                                        unsigned short ushBitLength) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const unsigned shift = static_cast<unsigned>(ushBitLength - 1) % 32;
     const auto mask = static_cast<std::uint32_t>(0xFFFFFFFFU << shift);
@@ -249,7 +249,7 @@ krm_ulong CKRMCCommandConvSignalData::SignedConversion(krm_int64* result, krm_ul
 krm_ulong CKRMCCommandConvSignalData::DecStringConversion(CKRMString* result, double value,
                                                           unsigned char uchDecPntCount) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     DecimalText decimal(value, uchDecPntCount);
     const char* text = decimal.Text();
@@ -263,7 +263,7 @@ krm_ulong CKRMCCommandConvSignalData::DecStringConversion(CKRMString* result, do
 krm_ulong CKRMCCommandConvSignalData::HexStringConversion(CKRMString* result, double value,
                                                           unsigned short ushBitLength) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     krm::convert::AssignHex(*result, "0x", value, ushBitLength);
     return 0;
@@ -272,7 +272,7 @@ krm_ulong CKRMCCommandConvSignalData::HexStringConversion(CKRMString* result, do
 krm_ulong CKRMCCommandConvSignalData::HexStringConversion2(CKRMString* result, double value,
                                                            unsigned short ushBitLength) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     krm::convert::AssignHex(*result, "", value, ushBitLength);
     return 0;

@@ -9,21 +9,15 @@
 #ifndef KRM_CONVERT_CONVERTER_H_
 #define KRM_CONVERT_CONVERTER_H_
 
+#include "krm/core/error_codes.h"
 #include "krm/core/list.h"
 #include "krm/messages/diag/display.h"
 #include "krm/platform/platform.h"
 
-namespace krm {
-
-/// The status of a converter's operation, 0 being success: a required pointer is null, or a byte count is 0.
-inline constexpr krm_ulong kNullPointer = 1100100001;
-
-}  // namespace krm
-
 /// Base of all converters, and the converter of plain numbers: scaling to a physical value, decimal text.
 ///
 /// A converter keeps nothing between calls; distinct converters may be used by different threads. Operations return 0, or
-/// krm::kNullPointer; a composite operation returns the first code that a step of it returned and skips the steps behind.
+/// krm::kNullArgument; a composite operation returns the first code that a step of it returned and skips the steps behind.
 /// Every step is a virtual call, so that a class that overrides one changes all that use it. The order of the virtual
 /// operations is part of the interface. Nothing throws but a std::bad_alloc of a text that is assigned.
 ///

@@ -6,7 +6,7 @@
 
 #include "krm/convert/internal/numbers.h"
 
-using krm::kNullPointer;
+using krm::kNullArgument;
 using krm::convert::Divides;
 using krm::convert::PowerOfTen;
 
@@ -14,7 +14,7 @@ krm_ulong CKRMCCommandConvSignalDataIlluminance::ValueConversion(double* result,
                                                                  unsigned short, krm_long, krm_long, krm_long,
                                                                  unsigned char) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     krm_long illuminance = 0;
     if (ulRawData != 0) {
@@ -32,7 +32,7 @@ krm_ulong CKRMCCommandConvSignalDataChassis::ValueConversion(double* result, krm
                                                              unsigned short, krm_long lMul, krm_long lDiv,
                                                              krm_long lOffset, unsigned char uchDecPntCount) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     // A raw value has 32 bits; wider groups see zeros beyond them.
     const krm_ulong width = std::min(m_ulGroupWidth, krm_ulong{32});
@@ -69,7 +69,7 @@ krm_ulong CKRMCCommandConvSignalDataBcd::ValueConversion(double* result, krm_ulo
                                                          unsigned short ushBitLength, krm_long, krm_long, krm_long,
                                                          unsigned char uchDecPntCount) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     double number = 0;
     double sign = 1;
@@ -96,7 +96,7 @@ krm_ulong CKRMCCommandConvSignalDataIncline::ValueConversion(double* result, krm
                                                              krm_long lMul, krm_long lDiv, krm_long lOffset,
                                                              unsigned char uchDecPntCount) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     double physical = 0;
     const krm_ulong status =
@@ -119,7 +119,7 @@ krm_ulong CKRMCCommandConvSignalDataSpecial2::ValueConversion(double* result, kr
                                                               krm_long lMul, krm_long lDiv, krm_long lOffset,
                                                               unsigned char uchDecPntCount) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     double physical = 0;
     const krm_ulong status =
@@ -135,7 +135,7 @@ krm_ulong CKRMCCommandConvSignalDataSpecial3::ValueConversion(double* result, kr
                                                               unsigned short, krm_long, krm_long, krm_long,
                                                               unsigned char) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong code = std::clamp(ulRawData, krm_ulong{1}, krm_ulong{255});
     const double voltage = static_cast<double>(256 - code) * 0.01;

@@ -2,7 +2,7 @@
 
 #include "krm/convert/internal/numbers.h"
 
-using krm::kNullPointer;
+using krm::kNullArgument;
 using krm::convert::ResetStringId;
 
 namespace {
@@ -56,7 +56,7 @@ krm_ulong CKRMCCommandConvSignalDataStringPattern::StringConversion(
     unsigned char, krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>* patternList, CKRMString* defaultPattern,
     krm_ulong ulDefaultStringId) {
     if (result == nullptr || patternList == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ResetStringId(stringId);
     if (ShowPattern(*patternList, krm::convert::TruncateToLow32(dPhys), result, stringId) ||
@@ -71,7 +71,7 @@ krm_ulong CKRMCCommandConvSignalDataStringPattern::StringVariableConversion(
     unsigned char, krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispVariableData>* patternList,
     CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
     if (result == nullptr || patternList == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ResetStringId(stringId);
     const auto matches = [dPhys](const CKRMCCommandDispVariableData& pattern) { return KeyOf(pattern) == dPhys; };
@@ -89,7 +89,7 @@ krm_ulong CKRMCCommandConvSignalDataMinMax::StringConversion(CKRMString* result,
                                                              CKRMList<CKRMCCommandDispData>* patternList, CKRMString*,
                                                              krm_ulong) {
     if (result == nullptr || patternList == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ResetStringId(stringId);
     krm_int64 value = 0;
@@ -118,7 +118,7 @@ krm_ulong CKRMCCommandConvSignalDataIlluminanceMinMax::ValueConversion(double* r
                                                                        unsigned char, unsigned short, krm_long,
                                                                        krm_long, krm_long, unsigned char) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     // Unsigned 32-bit arithmetic, wrapping: a raw value far above the sensor's range gives what it always gave.
     *result = ulRawData > 3000 ? static_cast<krm_ulong>(ulRawData * 8 - 22500) : ulRawData >> 1U;
@@ -130,7 +130,7 @@ krm_ulong CKRMCCommandConvSignalDataIlluminanceMinMax::StringConversion(
     unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin, CKRMList<CKRMCCommandDispData>* patternList,
     CKRMString*, krm_ulong) {
     if (result == nullptr || patternList == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ResetStringId(stringId);
     const bool between = ulMin < ulRawData && ulRawData < ulMax;
@@ -148,7 +148,7 @@ krm_ulong CKRMCCommandConvSignalDataLsbPattern::StringConversion(CKRMString* res
                                                                  CKRMList<CKRMCCommandDispData>* patternList,
                                                                  CKRMString*, krm_ulong) {
     if (result == nullptr || patternList == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ResetStringId(stringId);
     if (ShowPattern(*patternList, ulRawData, result, stringId)) {

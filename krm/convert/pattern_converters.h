@@ -6,7 +6,7 @@
 
 /// Conversion types 1, 20 and 22: the text of the first pattern whose key is the truncated physical value; without one the
 /// default text, and without that the value in hexadecimal. With patterns of bytes the key must equal the physical value
-/// exactly. A null pattern list is krm::kNullPointer.
+/// exactly. A null pattern list is krm::kNullArgument.
 class KRM_API CKRMCCommandConvSignalDataStringPattern : public CKRMCCommandConvSignalData {
 protected:
     krm_ulong StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys, krm_ulong ulRawData,
@@ -21,7 +21,7 @@ protected:
 };
 
 /// Conversion type 13: at or below the lower limit the text of the first pattern with key 0, at or above the upper limit that
-/// with key 1, decimal between them or without such a pattern. A null pattern list is krm::kNullPointer.
+/// with key 1, decimal between them or without such a pattern. A null pattern list is krm::kNullArgument.
 class KRM_API CKRMCCommandConvSignalDataMinMax : public CKRMCCommandConvSignalData {
 protected:
     krm_ulong StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys, krm_ulong ulRawData,
@@ -43,7 +43,7 @@ protected:
 };
 
 /// Conversion type 103: the text of the first pattern whose key is the raw value, decimal without one; the default text plays
-/// no part. A null pattern list is krm::kNullPointer.
+/// no part. A null pattern list is krm::kNullArgument.
 class KRM_API CKRMCCommandConvSignalDataLsbPattern : public CKRMCCommandConvSignalData {
 protected:
     krm_ulong StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys, krm_ulong ulRawData,

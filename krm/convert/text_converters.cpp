@@ -6,7 +6,7 @@
 #include "krm/convert/internal/numbers.h"
 #include "krm/convert/internal/short_text.h"
 
-using krm::kNullPointer;
+using krm::kNullArgument;
 using krm::convert::BeginText;
 using krm::convert::ShortText;
 
@@ -27,7 +27,7 @@ krm_ulong CKRMCCommandConvSignalDataHex::StringConversion(CKRMString* result, kr
                                                           unsigned char, krm_ulong, krm_ulong,
                                                           CKRMList<CKRMCCommandDispData>*, CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     return HexStringConversion(result, dPhys, ushBitLength);
 }
@@ -37,7 +37,7 @@ krm_ulong CKRMCCommandConvSignalDataHex2::StringConversion(CKRMString* result, k
                                                            unsigned char, krm_ulong, krm_ulong,
                                                            CKRMList<CKRMCCommandDispData>*, CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     return HexStringConversion2(result, dPhys, ushBitLength);
 }
@@ -46,7 +46,7 @@ krm_ulong CKRMCCommandConvSignalDataDiagCode::ValueConversion(double* result, kr
                                                               unsigned short, krm_long, krm_long, krm_long,
                                                               unsigned char) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     *result = ulRawData;
     return 0;
@@ -57,7 +57,7 @@ krm_ulong CKRMCCommandConvSignalDataDiagCode::StringConversion(CKRMString* resul
                                                                krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>*,
                                                                CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong code = krm::convert::TruncateToLow32(dPhys);
     constexpr std::array<char, 4> kSystems = {'P', 'C', 'B', 'U'};  // powertrain, chassis, body, network
@@ -70,7 +70,7 @@ krm_ulong CKRMCCommandConvSignalDataLatitude::StringConversion(CKRMString* resul
                                                                krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
                                                                krm_ulong) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ShowDegrees(*result, dPhys, "N", "S");
     return 0;
@@ -81,7 +81,7 @@ krm_ulong CKRMCCommandConvSignalDataLongitude::StringConversion(CKRMString* resu
                                                                 krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
                                                                 krm_ulong) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ShowDegrees(*result, dPhys, "E", "W");
     return 0;
@@ -93,7 +93,7 @@ krm_ulong CKRMCCommandConvSignalDataSoftwareVersion::StringConversion(CKRMString
                                                                       krm_ulong, CKRMList<CKRMCCommandDispData>*,
                                                                       CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     ShortText()
         .Hexadecimal((ulRawData >> 8U) & 0xFFU)
@@ -109,11 +109,11 @@ krm_ulong CKRMCCommandConvSignalDataBin::StringConversion(CKRMString* result, kr
                                                           krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
                                                           krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     constexpr std::size_t kMostBits = 32;
     if (ushBitLength > kMostBits) {
-        return kNullPointer;
+        return kNullArgument;
     }
     std::array<char, kMostBits + 1> digits;
     for (std::size_t i = 0; i < ushBitLength; ++i) {

@@ -62,7 +62,7 @@ protected:
 };
 
 /// Conversion type 113: the bits of the raw value, most significant first, one digit each. A bit length above 32 is
-/// krm::kNullPointer.
+/// krm::kNullArgument.
 class KRM_API CKRMCCommandConvSignalDataBin : public CKRMCCommandConvSignalData {
 protected:
     krm_ulong StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys, krm_ulong ulRawData,

@@ -4,7 +4,7 @@
 #include "krm/convert/internal/short_text.h"
 #include "krm/convert/internal/user_locale.h"
 
-using krm::kNullPointer;
+using krm::kNullArgument;
 using krm::convert::BeginText;
 using krm::convert::ShortText;
 using krm::convert::TruncateToLow32;
@@ -17,7 +17,7 @@ namespace {
 template <class Physical>
 krm_ulong ThreeBytesValue(double* result, krm_ulong raw, Physical physical) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     krm_ulong value = 0;
     for (unsigned shift = 0; shift < 24; shift += 8) {
@@ -34,7 +34,7 @@ krm_ulong ThreeBytesValue(double* result, krm_ulong raw, Physical physical) {
 
 krm_ulong ThreeBytesText(CKRMString* result, krm_ulong* stringId, double physical) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong value = TruncateToLow32(physical);
     const auto part = [value](unsigned shift) { return ((value >> shift) & 0xFFU) % 100; };
@@ -48,7 +48,7 @@ krm_ulong ThreeBytesText(CKRMString* result, krm_ulong* stringId, double physica
 template <class Physical>
 krm_ulong HoursAndMinutesValue(double* result, Physical physical) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     double count = 0;
     const krm_ulong status = physical(&count);
@@ -66,7 +66,7 @@ void ShowSpan(CKRMString& result, krm_ulong hours, krm_ulong minutes) {
 
 krm_ulong RawValue(double* result, krm_ulong raw) {
     if (result == nullptr) {
-        return kNullPointer;
+        return kNullArgument;
     }
     *result = raw;
     return 0;
@@ -123,7 +123,7 @@ krm_ulong CKRMCCommandConvSignalDataTimeHHMM::StringConversion(CKRMString* resul
                                                                krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>*,
                                                                CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong value = TruncateToLow32(dPhys);
     ShortText().Decimal(value >> 8U, 2).Character(':').Decimal(value & 0xFFU, 2).AssignTo(*result);
@@ -145,7 +145,7 @@ krm_ulong CKRMCCommandConvSignalDataTimeHHMM2::StringConversion(CKRMString* resu
                                                                 krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>*,
                                                                 CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong value = TruncateToLow32(dPhys);
     ShowSpan(*result, value >> 8U, value & 0xFFU);
@@ -157,7 +157,7 @@ krm_ulong CKRMCCommandConvSignalDataTimeHHMM3::StringConversion(CKRMString* resu
                                                                 krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>*,
                                                                 CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong minutes = TruncateToLow32(dPhys) / 60;
     ShowSpan(*result, minutes / 60, minutes % 60);
@@ -177,7 +177,7 @@ krm_ulong CKRMCCommandConvSignalDataDate2::StringConversion(CKRMString* result, 
                                                             krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>*,
                                                             CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong value = TruncateToLow32(dPhys);
     const krm::convert::CalendarDay day = {static_cast<int>(value >> 16U), static_cast<int>((value >> 8U) & 0xFFU),
@@ -202,7 +202,7 @@ krm_ulong CKRMCCommandConvSignalDataTime2::StringConversion(CKRMString* result, 
                                                             krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>*,
                                                             CKRMString*, krm_ulong) {
     if (!BeginText(result, stringId)) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const krm_ulong value = TruncateToLow32(dPhys);
     const krm::convert::TimeOfDay time = {static_cast<int>(value >> 24U), static_cast<int>((value >> 16U) & 0xFFU),

@@ -14,6 +14,7 @@
 #ifndef KRM_TREE_NODE_H_
 #define KRM_TREE_NODE_H_
 
+#include "krm/core/error_codes.h"
 #include "krm/core/types.h"
 #include "krm/platform/platform.h"
 
@@ -27,7 +28,7 @@ inline constexpr krm_ulong kElementKind = 2;       ///< a CKRMCElement
 inline constexpr krm_ulong kElementGroupKind = 3;  ///< a CKRMCElementGroup
 
 // Error codes.
-inline constexpr krm_ulong kNullArgument = 1100100001;      ///< a name, text, attribute, element or group is null
+using krm::kNullArgument;                                   ///< a name, text, attribute, element or group is null
 inline constexpr krm_ulong kOutOfMemory = 2100100002;       ///< a value or node can't be allocated
 inline constexpr krm_ulong kNoSuchAttribute = 2100100101;   ///< the attribute to remove is not in this element
 inline constexpr krm_ulong kNoSuchElement = 2100100102;     ///< the element to remove is not in this group
