@@ -4,8 +4,8 @@
 //     converter->ConvCommandDispData(&display, rawValue, ...);   // raw value, physical value, text and words ID
 //     CKRMCCommandConvSignalData::DeleteConverter(converter);
 //
-// This header has the base with its general rules and the factory; krm/convert/specialised.h has the classes for special
-// signals, which a caller rarely names.
+// This header has the base with its general rules and the factory; krm/convert/conversion_types.h lists the conversion
+// types, and krm/convert/specialised.h has the classes for special signals, which a caller rarely names.
 #ifndef KRM_CONVERT_CONVERTER_H_
 #define KRM_CONVERT_CONVERTER_H_
 
@@ -40,8 +40,8 @@ public:
     CKRMCCommandConvSignalData& operator=(const CKRMCCommandConvSignalData&) = default;
     virtual ~CKRMCCommandConvSignalData();
 
-    /// Creates the converter of a conversion type; an unknown type gives the base. Null only when memory runs out. The
-    /// caller owns the converter and gives it back through DeleteConverter.
+    /// Creates the converter of a conversion type, as krm::kConversionTypes lists them; an unknown type gives the base.
+    /// Null only when memory runs out. The caller owns the converter and gives it back through DeleteConverter.
     static CKRMCCommandConvSignalData* CreateConverter(unsigned char uchConvType);
     /// Destroys a converter; null is ignored.
     static void DeleteConverter(CKRMCCommandConvSignalData* converter);

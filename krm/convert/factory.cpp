@@ -1,84 +1,98 @@
+#include <algorithm>
+#include <array>
 #include <new>
+#include <string_view>
 
+#include "krm/convert/conversion_types.h"
 #include "krm/convert/specialised.h"
 
 namespace {
 
+using Make = CKRMCCommandConvSignalData* (*)(const krm::ConversionType&);
+
 /// Null when memory runs out.
-template <class Converter, class... Arguments>
-CKRMCCommandConvSignalData* Make(Arguments... arguments) {
-    return new (std::nothrow) Converter(arguments...);
+template <class Converter>
+CKRMCCommandConvSignalData* MakeOne(const krm::ConversionType&) {
+    return new (std::nothrow) Converter;
 }
+
+template <>
+CKRMCCommandConvSignalData* MakeOne<CKRMCCommandConvSignalDataChassis>(const krm::ConversionType& type) {
+    return new (std::nothrow) CKRMCCommandConvSignalDataChassis(type.groupWidth, type.lastBitIsSign);
+}
+
+/// The classes by their names, which is how the table tells them.
+struct Class {
+    std::string_view name;
+    Make make;
+};
+
+constexpr Class kClasses[] = {
+#define KRM_CLASS(name)        \
+    Class {                    \
+#name, MakeOne < name> \
+    }
+    KRM_CLASS(CKRMCCommandConvSignalData),
+    KRM_CLASS(CKRMCCommandConvSignalDataArrayHex),
+    KRM_CLASS(CKRMCCommandConvSignalDataAscii),
+    KRM_CLASS(CKRMCCommandConvSignalDataBcd),
+    KRM_CLASS(CKRMCCommandConvSignalDataBin),
+    KRM_CLASS(CKRMCCommandConvSignalDataChassis),
+    KRM_CLASS(CKRMCCommandConvSignalDataDate),
+    KRM_CLASS(CKRMCCommandConvSignalDataDate2),
+    KRM_CLASS(CKRMCCommandConvSignalDataDiagCode),
+    KRM_CLASS(CKRMCCommandConvSignalDataHex),
+    KRM_CLASS(CKRMCCommandConvSignalDataHex2),
+    KRM_CLASS(CKRMCCommandConvSignalDataIlluminance),
+    KRM_CLASS(CKRMCCommandConvSignalDataIlluminanceMinMax),
+    KRM_CLASS(CKRMCCommandConvSignalDataIncline),
+    KRM_CLASS(CKRMCCommandConvSignalDataLatitude),
+    KRM_CLASS(CKRMCCommandConvSignalDataLongitude),
+    KRM_CLASS(CKRMCCommandConvSignalDataLsbPattern),
+    KRM_CLASS(CKRMCCommandConvSignalDataMinMax),
+    KRM_CLASS(CKRMCCommandConvSignalDataReversal),
+    KRM_CLASS(CKRMCCommandConvSignalDataSoftwareVersion),
+    KRM_CLASS(CKRMCCommandConvSignalDataSpecial2),
+    KRM_CLASS(CKRMCCommandConvSignalDataSpecial3),
+    KRM_CLASS(CKRMCCommandConvSignalDataStringPattern),
+    KRM_CLASS(CKRMCCommandConvSignalDataTime),
+    KRM_CLASS(CKRMCCommandConvSignalDataTime2),
+    KRM_CLASS(CKRMCCommandConvSignalDataTimeHHMM),
+    KRM_CLASS(CKRMCCommandConvSignalDataTimeHHMM2),
+    KRM_CLASS(CKRMCCommandConvSignalDataTimeHHMM3),
+#undef KRM_CLASS
+};
+
+/// Null where no class has that name.
+constexpr Make MakeOf(std::string_view className) {
+    for (const Class& converter : kClasses) {
+        if (converter.name == className) {
+            return converter.make;
+        }
+    }
+    return nullptr;
+}
+
+/// What makes the converter of each code.
+struct Recipe {
+    Make make;
+    const krm::ConversionType* type;
+};
+
+constexpr auto kRecipes = [] {
+    std::array<Recipe, 256> recipes{};
+    recipes.fill({MakeOf(krm::kPlainNumber.className), &krm::kPlainNumber});
+    for (const krm::ConversionType& type : krm::kConversionTypes) {
+        recipes[type.code] = {MakeOf(type.className), &type};
+    }
+    return recipes;
+}();
+static_assert(std::ranges::all_of(kRecipes, [](const Recipe& recipe) { return recipe.make != nullptr; }),
+              "the table of conversion types names a class that isn't listed here");
 
 }  // namespace
 
 CKRMCCommandConvSignalData* CKRMCCommandConvSignalData::CreateConverter(unsigned char uchConvType) {
-    switch (uchConvType) {
-        case 1:
-        case 20:
-        case 22:
-            return Make<CKRMCCommandConvSignalDataStringPattern>();
-        case 3:
-            return Make<CKRMCCommandConvSignalDataHex>();
-        case 4:
-            return Make<CKRMCCommandConvSignalDataAscii>();
-        case 5:
-            return Make<CKRMCCommandConvSignalDataDiagCode>();
-        case 6:
-            return Make<CKRMCCommandConvSignalDataIlluminance>();
-        case 7:
-            return Make<CKRMCCommandConvSignalDataChassis>(krm_ulong{10}, true);
-        case 8:
-            return Make<CKRMCCommandConvSignalDataChassis>(krm_ulong{12}, true);
-        case 9:
-            return Make<CKRMCCommandConvSignalDataChassis>(krm_ulong{10}, false);
-        case 10:
-            return Make<CKRMCCommandConvSignalDataChassis>(krm_ulong{8}, true);
-        case 11:
-            return Make<CKRMCCommandConvSignalDataChassis>(krm_ulong{16}, false);
-        case 12:
-            return Make<CKRMCCommandConvSignalDataReversal>();
-        case 13:
-            return Make<CKRMCCommandConvSignalDataMinMax>();
-        case 15:
-            return Make<CKRMCCommandConvSignalDataDate>();
-        case 16:
-            return Make<CKRMCCommandConvSignalDataTime>();
-        case 19:
-            return Make<CKRMCCommandConvSignalDataTimeHHMM>();
-        case 24:
-            return Make<CKRMCCommandConvSignalDataIlluminanceMinMax>();
-        case 101:
-            return Make<CKRMCCommandConvSignalDataBcd>();
-        case 102:
-            return Make<CKRMCCommandConvSignalDataIncline>();
-        case 103:
-            return Make<CKRMCCommandConvSignalDataLsbPattern>();
-        case 104:
-            return Make<CKRMCCommandConvSignalDataArrayHex>();
-        case 105:
-            return Make<CKRMCCommandConvSignalDataDate2>();
-        case 106:
-            return Make<CKRMCCommandConvSignalDataTime2>();
-        case 107:
-            return Make<CKRMCCommandConvSignalDataLatitude>();
-        case 108:
-            return Make<CKRMCCommandConvSignalDataLongitude>();
-        case 109:
-            return Make<CKRMCCommandConvSignalDataSoftwareVersion>();
-        case 110:
-            return Make<CKRMCCommandConvSignalDataSpecial2>();
-        case 111:
-            return Make<CKRMCCommandConvSignalDataTimeHHMM2>();
-        case 112:
-            return Make<CKRMCCommandConvSignalDataHex2>();
-        case 113:
-            return Make<CKRMCCommandConvSignalDataBin>();
-        case 114:
-            return Make<CKRMCCommandConvSignalDataSpecial3>();
-        case 115:
-            return Make<CKRMCCommandConvSignalDataTimeHHMM3>();
-        default:
-            return Make<CKRMCCommandConvSignalData>();
-    }
+    const Recipe& recipe = kRecipes[uchConvType];
+    return recipe.make(*recipe.type);
 }
