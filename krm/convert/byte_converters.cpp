@@ -4,6 +4,7 @@
 #include <string>
 
 #include "krm/convert/internal/numbers.h"
+#include "krm/core/internal/digits.h"
 
 using krm::kNullArgument;
 
@@ -38,13 +39,11 @@ krm_ulong CKRMCCommandConvSignalDataArrayHex::ConvCommandDispData(CKRMCCommandDi
     if (!krm::convert::TakeFirstByte(record, data, dataLen)) {
         return kNullArgument;
     }
-    constexpr const char* kDigits = "0123456789ABCDEF";
     // Whole before it is appended: the bytes may be those of the record's own text.
-    std::string digits;
-    digits.reserve(std::size_t{dataLen} * 2);
+    std::string digits(std::size_t{dataLen} * 2, '\0');
+    char* end = digits.data();
     for (krm_ulong i = 0; i < dataLen; ++i) {
-        digits += kDigits[data[i] >> 4U];
-        digits += kDigits[data[i] & 0xFU];
+        end = krm::core::WriteByte(end, data[i], krm::core::kUpperCase);
     }
     record->m_strDataPhys += digits.c_str();
     return 0;

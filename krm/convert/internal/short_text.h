@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 
+#include "krm/core/internal/digits.h"
 #include "krm/platform/platform.h"
 
 namespace krm::convert {
@@ -24,9 +25,13 @@ public:
         return *this;
     }
     /// At least `width` digits, filled with zeros.
-    ShortText& Decimal(krm_ulong number, std::size_t width = 1) { return Digits(number, 10, width); }
+    ShortText& Decimal(krm_ulong number, std::size_t width = 1) {
+        return UpTo(core::WriteDecimal(End(), number, width));
+    }
     /// The same in upper-case hexadecimal.
-    ShortText& Hexadecimal(krm_ulong number, std::size_t width = 1) { return Digits(number, 16, width); }
+    ShortText& Hexadecimal(krm_ulong number, std::size_t width = 1) {
+        return UpTo(core::WriteHexadecimal(End(), number, core::kUpperCase, width));
+    }
 
     void AssignTo(CKRMString& result) {
         m_text[m_length] = '\0';
@@ -34,16 +39,9 @@ public:
     }
 
 private:
-    ShortText& Digits(krm_ulong number, krm_ulong base, std::size_t width) {
-        std::array<char, 10> reversed;  // of 32 bits, and no width is larger
-        std::size_t count = 0;
-        do {
-            reversed[count++] = "0123456789ABCDEF"[number % base];
-            number /= base;
-        } while (number != 0 || count < width);
-        while (count != 0) {
-            Character(reversed[--count]);
-        }
+    char* End() { return m_text.data() + m_length; }
+    ShortText& UpTo(const char* end) {
+        m_length = static_cast<std::size_t>(end - m_text.data());
         return *this;
     }
 

@@ -1,5 +1,9 @@
 #include "krm/messages/diag/customize.h"
 
+#include <cstddef>
+#include <string>
+
+#include "krm/core/internal/digits.h"
 #include "krm/framework/dump.h"
 
 template class CKRMList<CKRMCCommandCustomizeName>;
@@ -12,13 +16,12 @@ namespace {
 
 /// The bytes of a customisation value as the log shows them: two lower-case hexadecimal digits each, in list order.
 CKRMString HexOf(const CKRMList<unsigned char>& bytes) {
-    CKRMString text;
+    std::string text(static_cast<std::size_t>(bytes.GetCount()) * 2, '\0');
+    char* end = text.data();
     for (const unsigned char byte : bytes) {
-        CKRMString digits;
-        digits.Format("%02x", byte);
-        text += digits;
+        end = krm::core::WriteByte(end, byte, krm::core::kLowerCase);
     }
-    return text;
+    return text.c_str();
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
 #include "krm/tree/internal/chain.h"
 
 #include <array>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "krm/core/internal/digits.h"
 #include "krm/tree/attribute.h"
 #include "krm/tree/element.h"
 #include "krm/tree/element_group.h"
@@ -16,17 +16,23 @@ namespace krm::tree {
 
 namespace {
 
-// Integers, which most values are, look the same without the work of a format.
 template <class Integer>
 void AppendNumber(std::string& out, Integer number) {
-    std::array<char, 12> digits;  // a sign and the ten digits of 32 bits
-    out.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
+    std::array<char, core::kDecimalRoom<Integer>> digits;
+    out.append(digits.data(), core::WriteDecimal(digits.data(), number));
 }
 
-template <class Number>
-void AppendFormatted(std::string& out, const char* format, Number number) {
+void AppendAddress(std::string& out, const void* address) {
+    constexpr std::size_t kDigits = 8;
+    std::array<char, kDigits> digits;
+    const auto low32 = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(address));
+    out += "0x";
+    out.append(digits.data(), core::WriteHexadecimal(digits.data(), low32, core::kUpperCase, kDigits));
+}
+
+void AppendNumber(std::string& out, double number) {
     CKRMString text;
-    text.Format(format, number);
+    text.Format("%lf", number);
     out += text.GetText();
 }
 
@@ -87,7 +93,7 @@ void Chain::AppendAttribute(const CKRMCAttribute& attribute, std::string& out) {
                 out += attribute.GetString();
                 break;
             case kDoubleValue:
-                AppendFormatted(out, "%lf", attribute.GetDouble());
+                AppendNumber(out, attribute.GetDouble());
                 break;
             case kLongValue:
                 AppendNumber(out, attribute.GetLong());
@@ -96,8 +102,7 @@ void Chain::AppendAttribute(const CKRMCAttribute& attribute, std::string& out) {
                 AppendNumber(out, attribute.GetULong());
                 break;
             default:
-                AppendFormatted(out, "0x%08X",
-                                static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(attribute.m_pValue)));
+                AppendAddress(out, attribute.m_pValue);
                 break;
         }
     }

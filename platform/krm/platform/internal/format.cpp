@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+#include "krm/core/internal/digits.h"
+
 namespace krm::platform {
 namespace {
 
@@ -140,27 +142,38 @@ std::string_view SignOf(const Conversion& conversion, bool negative) {
     return conversion.plus ? "+" : conversion.space ? " " : "";
 }
 
+/// Writes an integer's digits as the conversion's letter asks; returns the end.
+char* WriteMagnitude(char* first, char letter, std::uintmax_t magnitude) {
+    switch (letter) {
+        case 'o':
+            return core::WriteBits<3>(first, magnitude);
+        case 'x':
+            return core::WriteHexadecimal(first, magnitude, core::kLowerCase);
+        case 'X':
+            return core::WriteHexadecimal(first, magnitude, core::kUpperCase);
+        default:
+            return core::WriteDecimal(first, magnitude);
+    }
+}
+
 void AppendInteger(Output& out, const Conversion& conversion, std::uintmax_t magnitude, std::string_view sign) {
     std::array<char, 24> buffer;  // 22 octal digits of 64 bits are the longest
-    const int base = conversion.letter == 'o' ? 8 : conversion.letter == 'x' || conversion.letter == 'X' ? 16 : 10;
     char* const first = buffer.data();
-    char* last = std::to_chars(first, first + buffer.size(), magnitude, base).ptr;
-    if (conversion.precision == 0 && magnitude == 0) {
-        last = first;
-    }
-    if (conversion.letter == 'X') {
-        ToUpper(first, last);
+    char* last = first;
+    if (conversion.precision != 0 || magnitude != 0) {
+        last = WriteMagnitude(first, conversion.letter, magnitude);
     }
     const std::string_view digits(first, static_cast<std::size_t>(last - first));
     std::string_view prefix = sign;
-    if (conversion.alternative && base == 16 && magnitude != 0) {
+    if (conversion.alternative && magnitude != 0 && (conversion.letter == 'x' || conversion.letter == 'X')) {
         prefix = conversion.letter == 'X' ? "0X" : "0x";
     }
     std::size_t leading = 0;
     if (conversion.precision > 0 && static_cast<std::size_t>(conversion.precision) > digits.size()) {
         leading = static_cast<std::size_t>(conversion.precision) - digits.size();
     }
-    if (conversion.alternative && base == 8 && leading == 0 && (digits.empty() || digits.front() != '0')) {
+    if (conversion.alternative && conversion.letter == 'o' && leading == 0 &&
+        (digits.empty() || digits.front() != '0')) {
         leading = 1;
     }
     const bool zeroFill = conversion.zero && conversion.precision < 0;
@@ -438,10 +451,9 @@ void AssignFormatted(std::string& result, const char* format, std::va_list argum
             out.Append(text == nullptr ? "(null)" : text);
         } else if (*cursor == 'd') {
             ++cursor;
-            std::array<char, 12> digits;
-            const std::to_chars_result end =
-                std::to_chars(digits.data(), digits.data() + digits.size(), va_arg(rest.list, int));
-            out.Append({digits.data(), static_cast<std::size_t>(end.ptr - digits.data())});
+            std::array<char, core::kDecimalRoom<int>> digits;
+            const char* const end = core::WriteDecimal(digits.data(), va_arg(rest.list, int));
+            out.Append({digits.data(), static_cast<std::size_t>(end - digits.data())});
         } else {
             AppendConversion(out, Parse(cursor, rest), rest);
         }
