@@ -8,6 +8,7 @@
 
 #include "krm/convert/internal/extended.h"
 #include "krm/convert/internal/numbers.h"
+#include "krm/convert/internal/steps.h"
 
 using krm::kNullArgument;
 using krm::convert::DecimalText;
@@ -15,19 +16,51 @@ using krm::convert::Divides;
 using krm::convert::Extended;
 using krm::convert::Low32;
 using krm::convert::PowerOfTen;
+using krm::convert::Scaling;
+using krm::convert::Signal;
 using krm::convert::Truncate;
 
 namespace {
 
-/// Undoes PhysicalConversion's scaling, in plain double.
-double Unscaled(double value, krm_long lMul, krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount) {
-    double unscaled = value * PowerOfTen(uchDecPntCount) - lOffset;
-    if (lMul != 1) {
-        // No value has a multiplier of 0 undone; NaN ends where the infinity of a division would.
-        unscaled = lMul != 0 ? unscaled / lMul : std::numeric_limits<double>::quiet_NaN();
+krm_ulong ShowText(CKRMCCommandConvSignalData& converter, CKRMCCommandDispData& record, krm_ulong raw,
+                   const Signal<CKRMCCommandDispData>& signal) {
+    return converter.StringConversion(&record.m_strDataPhys, &record.m_ulDataStringId, record.m_dDataPhys, raw,
+                                      signal.scaling.signCode, signal.scaling.bitLength, signal.scaling.decimals,
+                                      signal.max, signal.min, signal.patterns, signal.defaultText,
+                                      signal.defaultStringId);
+}
+
+krm_ulong ShowText(CKRMCCommandConvSignalData& converter, CKRMCCommandDispData& record, krm_ulong raw,
+                   const Signal<CKRMCCommandDispVariableData>& signal) {
+    return converter.StringVariableConversion(&record.m_strDataPhys, &record.m_ulDataStringId, record.m_dDataPhys, raw,
+                                              signal.scaling.signCode, signal.scaling.bitLength,
+                                              signal.scaling.decimals, signal.max, signal.min, signal.patterns,
+                                              signal.defaultText, signal.defaultStringId);
+}
+
+/// Both entries of a raw value: its physical value, and from that its text.
+template <class Pattern>
+krm_ulong Show(CKRMCCommandConvSignalData& converter, CKRMCCommandDispData* record, krm_ulong raw,
+               const Signal<Pattern>& signal) {
+    if (record == nullptr) {
+        return kNullArgument;
     }
-    if (Divides(lDiv)) {
-        unscaled *= lDiv;
+    record->m_ulRawData = raw;
+    const Scaling& scaling = signal.scaling;
+    const krm_ulong status = converter.ValueConversion(&record->m_dDataPhys, raw, scaling.signCode, scaling.bitLength,
+                                                       scaling.mul, scaling.div, scaling.offset, scaling.decimals);
+    return status != 0 ? status : ShowText(converter, *record, raw, signal);
+}
+
+/// Undoes PhysicalConversion's scaling, in plain double.
+inline double Unscaled(double value, const Scaling& scaling) {
+    double unscaled = value * PowerOfTen(scaling.decimals) - scaling.offset;
+    if (scaling.mul != 1) {
+        // No value has a multiplier of 0 undone; NaN ends where the infinity of a division would.
+        unscaled = scaling.mul != 0 ? unscaled / scaling.mul : std::numeric_limits<double>::quiet_NaN();
+    }
+    if (Divides(scaling.div)) {
+        unscaled *= scaling.div;
     }
     return unscaled;
 }
@@ -82,36 +115,26 @@ krm_ulong CKRMCCommandConvSignalData::ConvCommandDispData(CKRMCCommandDispData* 
                                                           unsigned char uchDecPntCount, krm_ulong ulMax,
                                                           krm_ulong ulMin, CKRMList<CKRMCCommandDispData>* patternList,
                                                           CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
-    if (record == nullptr) {
-        return kNullArgument;
-    }
-    record->m_ulRawData = ulRawData;
-    const krm_ulong status =
-        ValueConversion(&record->m_dDataPhys, ulRawData, uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount);
-    if (status != 0) {
-        return status;
-    }
-    return StringConversion(&record->m_strDataPhys, &record->m_ulDataStringId, record->m_dDataPhys, ulRawData,
-                            uchSigned, ushBitLength, uchDecPntCount, ulMax, ulMin, patternList, defaultPattern,
-                            ulDefaultStringId);
+    const Signal<CKRMCCommandDispData> signal = {{uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount},
+                                                 ulMax,
+                                                 ulMin,
+                                                 patternList,
+                                                 defaultPattern,
+                                                 ulDefaultStringId};
+    return Show(*this, record, ulRawData, signal);
 }
 
 krm_ulong CKRMCCommandConvSignalData::ConvCommandDispVariableData(
     CKRMCCommandDispData* record, krm_ulong ulRawData, unsigned char uchSigned, unsigned short ushBitLength,
     krm_long lMul, krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin,
     CKRMList<CKRMCCommandDispVariableData>* patternList, CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
-    if (record == nullptr) {
-        return kNullArgument;
-    }
-    record->m_ulRawData = ulRawData;
-    const krm_ulong status =
-        ValueConversion(&record->m_dDataPhys, ulRawData, uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount);
-    if (status != 0) {
-        return status;
-    }
-    return StringVariableConversion(&record->m_strDataPhys, &record->m_ulDataStringId, record->m_dDataPhys, ulRawData,
-                                    uchSigned, ushBitLength, uchDecPntCount, ulMax, ulMin, patternList, defaultPattern,
-                                    ulDefaultStringId);
+    const Signal<CKRMCCommandDispVariableData> signal = {{uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount},
+                                                         ulMax,
+                                                         ulMin,
+                                                         patternList,
+                                                         defaultPattern,
+                                                         ulDefaultStringId};
+    return Show(*this, record, ulRawData, signal);
 }
 
 krm_ulong CKRMCCommandConvSignalData::ConvLogicalValue(krm_ulong* result, double value, unsigned char uchSigned,
@@ -127,7 +150,7 @@ krm_ulong CKRMCCommandConvSignalData::ConvLogicalValue(krm_ulong* result, double
     } else if (dMax >= value && dMin > value) {
         clamped = dMin;
     }
-    const double unscaled = Unscaled(clamped, lMul, lDiv, lOffset, uchDecPntCount);
+    const double unscaled = Unscaled(clamped, {uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount});
     const krm_int64 x = Truncate(unscaled >= 0 ? unscaled + 0.5 : unscaled - 0.5);
     switch (uchSigned) {
         case 0:
@@ -155,15 +178,13 @@ krm_ulong CKRMCCommandConvSignalData::ConvLogicalValue(krm_ulong* result, double
     if (result == nullptr) {
         return kNullArgument;
     }
-    const krm_int64 x = Truncate(Unscaled(value, lMul, lDiv, lOffset, uchDecPntCount));
+    const krm_int64 x = Truncate(Unscaled(value, {uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount}));
     krm_int64 most = 0;
     krm_int64 least = 0;
-    krm_ulong status = SignedConversion(&most, ulMax, uchSigned, ushBitLength);
-    if (status != 0) {
+    if (const krm_ulong status = SignedConversion(&most, ulMax, uchSigned, ushBitLength); status != 0) {
         return status;
     }
-    status = SignedConversion(&least, ulMin, uchSigned, ushBitLength);
-    if (status != 0) {
+    if (const krm_ulong status = SignedConversion(&least, ulMin, uchSigned, ushBitLength); status != 0) {
         return status;
     }
     if (x >= most) {
@@ -262,18 +283,10 @@ krm_ulong CKRMCCommandConvSignalData::DecStringConversion(CKRMString* result, do
 
 krm_ulong CKRMCCommandConvSignalData::HexStringConversion(CKRMString* result, double value,
                                                           unsigned short ushBitLength) {
-    if (result == nullptr) {
-        return kNullArgument;
-    }
-    krm::convert::AssignHex(*result, "0x", value, ushBitLength);
-    return 0;
+    return krm::convert::AssignHex(result, "0x", value, ushBitLength);
 }
 
 krm_ulong CKRMCCommandConvSignalData::HexStringConversion2(CKRMString* result, double value,
                                                            unsigned short ushBitLength) {
-    if (result == nullptr) {
-        return kNullArgument;
-    }
-    krm::convert::AssignHex(*result, "", value, ushBitLength);
-    return 0;
+    return krm::convert::AssignHex(result, "", value, ushBitLength);
 }

@@ -14,6 +14,10 @@
 #include "krm/messages/diag/display.h"
 #include "krm/platform/platform.h"
 
+namespace krm::convert {
+struct Steps;
+}
+
 /// Base of all converters, and the converter of plain numbers: scaling to a physical value, decimal text.
 ///
 /// A converter keeps nothing between calls; distinct converters may be used by different threads. Operations return 0, or
@@ -115,6 +119,9 @@ protected:
     virtual krm_ulong HexStringConversion(CKRMString* result, double value, unsigned short ushBitLength);
     /// The same without "0x".
     virtual krm_ulong HexStringConversion2(CKRMString* result, double value, unsigned short ushBitLength);
+
+private:
+    friend struct krm::convert::Steps;
 };
 
 #endif  // KRM_CONVERT_CONVERTER_H_

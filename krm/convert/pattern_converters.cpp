@@ -1,43 +1,41 @@
 #include "krm/convert/pattern_converters.h"
 
+#include <optional>
+
 #include "krm/convert/internal/numbers.h"
+#include "krm/convert/internal/steps.h"
 
 using krm::kNullArgument;
-using krm::convert::ResetStringId;
+using krm::convert::BeginText;
+using krm::convert::Steps;
 
 namespace {
 
-/// The text and words ID of the first pattern that `matches`; false where there is none.
-template <class Pattern, class Matches>
-bool ShowPattern(const CKRMList<Pattern>& patterns, Matches matches, CKRMString* result, krm_ulong* stringId) {
-    for (const Pattern& pattern : patterns) {
-        if (matches(pattern)) {
-            *result = pattern.m_strDataPhys;
-            if (stringId != nullptr) {
-                *stringId = pattern.m_ulDataStringId;
-            }
-            return true;
+// Keys of the texts for values beyond the limits.
+constexpr krm_ulong kLow = 0;
+constexpr krm_ulong kHigh = 1;
+
+/// Where a text and its words ID go. The ID may be null.
+struct Place {
+    CKRMString* text;
+    krm_ulong* stringId;
+
+    void Show(const CKRMString& shown, krm_ulong id) const {
+        *text = shown;
+        if (stringId != nullptr) {
+            *stringId = id;
         }
     }
-    return false;
+};
+
+/// What every text from a pattern table starts with: false, and nothing done, without a result or a table.
+template <class Pattern>
+bool BeginText(Place place, const CKRMList<Pattern>* patterns) {
+    return patterns != nullptr && BeginText(place.text, place.stringId);
 }
 
-bool ShowPattern(const CKRMList<CKRMCCommandDispData>& patterns, krm_ulong key, CKRMString* result,
-                 krm_ulong* stringId) {
-    return ShowPattern(
-        patterns, [key](const CKRMCCommandDispData& pattern) { return pattern.m_ulRawData == key; }, result, stringId);
-}
-
-/// The default text and its words ID; false where there is none to show.
-bool ShowDefault(const CKRMString* defaultPattern, krm_ulong defaultStringId, CKRMString* result, krm_ulong* stringId) {
-    if (defaultPattern == nullptr || defaultPattern->GetLength() == 0) {
-        return false;
-    }
-    *result = *defaultPattern;
-    if (stringId != nullptr) {
-        *stringId = defaultStringId;
-    }
-    return true;
+krm_ulong KeyOf(const CKRMCCommandDispData& pattern) {
+    return pattern.m_ulRawData;
 }
 
 /// The bytes as one big-endian number. Accumulated in double, as the physical value that it is compared with is one.
@@ -49,37 +47,67 @@ double KeyOf(const CKRMCCommandDispVariableData& pattern) {
     return key;
 }
 
+/// Shows the first pattern with `key`; false where there is none.
+template <class Pattern, class Key>
+bool ShowPattern(const CKRMList<Pattern>& patterns, Key key, Place place) {
+    for (const Pattern& pattern : patterns) {
+        if (KeyOf(pattern) == key) {
+            place.Show(pattern.m_strDataPhys, pattern.m_ulDataStringId);
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The default text of an item, and its words ID.
+struct DefaultText {
+    const CKRMString* text;
+    krm_ulong stringId;
+};
+
+/// The text of `key`, without one the default text, and without that the value in hexadecimal.
+template <class Pattern, class Key>
+krm_ulong PatternOrDefault(CKRMCCommandConvSignalData& converter, Place place, const CKRMList<Pattern>* patterns,
+                           Key key, DefaultText otherwise, double physical, unsigned short bitLength) {
+    if (!BeginText(place, patterns)) {
+        return kNullArgument;
+    }
+    if (ShowPattern(*patterns, key, place)) {
+        return 0;
+    }
+    if (otherwise.text != nullptr && otherwise.text->GetLength() != 0) {
+        place.Show(*otherwise.text, otherwise.stringId);
+        return 0;
+    }
+    return Steps::Hexadecimal(converter, place.text, physical, bitLength);
+}
+
+/// The text of `key`; without a key or a pattern that has it, the value in decimal.
+krm_ulong PatternOrDecimal(CKRMCCommandConvSignalData& converter, Place place,
+                           const CKRMList<CKRMCCommandDispData>& patterns, std::optional<krm_ulong> key,
+                           double physical, unsigned char decimals) {
+    if (key && ShowPattern(patterns, *key, place)) {
+        return 0;
+    }
+    return Steps::Decimal(converter, place.text, physical, decimals);
+}
+
 }  // namespace
 
 krm_ulong CKRMCCommandConvSignalDataStringPattern::StringConversion(
     CKRMString* result, krm_ulong* stringId, double dPhys, krm_ulong, unsigned char, unsigned short ushBitLength,
     unsigned char, krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispData>* patternList, CKRMString* defaultPattern,
     krm_ulong ulDefaultStringId) {
-    if (result == nullptr || patternList == nullptr) {
-        return kNullArgument;
-    }
-    ResetStringId(stringId);
-    if (ShowPattern(*patternList, krm::convert::TruncateToLow32(dPhys), result, stringId) ||
-        ShowDefault(defaultPattern, ulDefaultStringId, result, stringId)) {
-        return 0;
-    }
-    return HexStringConversion(result, dPhys, ushBitLength);
+    return PatternOrDefault(*this, {result, stringId}, patternList, krm::convert::TruncateToLow32(dPhys),
+                            {defaultPattern, ulDefaultStringId}, dPhys, ushBitLength);
 }
 
 krm_ulong CKRMCCommandConvSignalDataStringPattern::StringVariableConversion(
     CKRMString* result, krm_ulong* stringId, double dPhys, krm_ulong, unsigned char, unsigned short ushBitLength,
     unsigned char, krm_ulong, krm_ulong, CKRMList<CKRMCCommandDispVariableData>* patternList,
     CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
-    if (result == nullptr || patternList == nullptr) {
-        return kNullArgument;
-    }
-    ResetStringId(stringId);
-    const auto matches = [dPhys](const CKRMCCommandDispVariableData& pattern) { return KeyOf(pattern) == dPhys; };
-    if (ShowPattern(*patternList, matches, result, stringId) ||
-        ShowDefault(defaultPattern, ulDefaultStringId, result, stringId)) {
-        return 0;
-    }
-    return HexStringConversion(result, dPhys, ushBitLength);
+    return PatternOrDefault(*this, {result, stringId}, patternList, dPhys, {defaultPattern, ulDefaultStringId}, dPhys,
+                            ushBitLength);
 }
 
 krm_ulong CKRMCCommandConvSignalDataMinMax::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -88,10 +116,10 @@ krm_ulong CKRMCCommandConvSignalDataMinMax::StringConversion(CKRMString* result,
                                                              krm_ulong ulMax, krm_ulong ulMin,
                                                              CKRMList<CKRMCCommandDispData>* patternList, CKRMString*,
                                                              krm_ulong) {
-    if (result == nullptr || patternList == nullptr) {
+    const Place place = {result, stringId};
+    if (!BeginText(place, patternList)) {
         return kNullArgument;
     }
-    ResetStringId(stringId);
     krm_int64 value = 0;
     krm_int64 most = 0;
     krm_int64 least = 0;
@@ -105,41 +133,38 @@ krm_ulong CKRMCCommandConvSignalDataMinMax::StringConversion(CKRMString* result,
     if (status != 0) {
         return status;
     }
-    constexpr krm_ulong kLow = 0;
-    constexpr krm_ulong kHigh = 1;
-    if ((value <= least || value >= most) &&
-        ShowPattern(*patternList, value <= least ? kLow : kHigh, result, stringId)) {
-        return 0;
+    std::optional<krm_ulong> key;
+    if (value <= least) {
+        key = kLow;
+    } else if (value >= most) {
+        key = kHigh;
     }
-    return DecStringConversion(result, dPhys, uchDecPntCount);
+    return PatternOrDecimal(*this, place, *patternList, key, dPhys, uchDecPntCount);
 }
 
 krm_ulong CKRMCCommandConvSignalDataIlluminanceMinMax::ValueConversion(double* result, krm_ulong ulRawData,
                                                                        unsigned char, unsigned short, krm_long,
                                                                        krm_long, krm_long, unsigned char) {
-    if (result == nullptr) {
-        return kNullArgument;
-    }
-    // Unsigned 32-bit arithmetic, wrapping: a raw value far above the sensor's range gives what it always gave.
-    *result = ulRawData > 3000 ? static_cast<krm_ulong>(ulRawData * 8 - 22500) : ulRawData >> 1U;
-    return 0;
+    // Wraps in 32 bits far above the sensor's range.
+    return krm::convert::AssignValue(
+        result, ulRawData > 3000 ? static_cast<krm_ulong>(ulRawData * 8 - 22500) : ulRawData >> 1U);
 }
 
 krm_ulong CKRMCCommandConvSignalDataIlluminanceMinMax::StringConversion(
     CKRMString* result, krm_ulong* stringId, double dPhys, krm_ulong ulRawData, unsigned char, unsigned short,
     unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin, CKRMList<CKRMCCommandDispData>* patternList,
     CKRMString*, krm_ulong) {
-    if (result == nullptr || patternList == nullptr) {
+    const Place place = {result, stringId};
+    if (!BeginText(place, patternList)) {
         return kNullArgument;
     }
-    ResetStringId(stringId);
-    const bool between = ulMin < ulRawData && ulRawData < ulMax;
-    constexpr krm_ulong kLow = 0;
-    constexpr krm_ulong kHigh = 1;
-    if (!between && ShowPattern(*patternList, ulRawData > ulMin ? kHigh : kLow, result, stringId)) {
-        return 0;
+    std::optional<krm_ulong> key;
+    if (ulRawData <= ulMin) {
+        key = kLow;
+    } else if (ulRawData >= ulMax) {
+        key = kHigh;
     }
-    return DecStringConversion(result, dPhys, uchDecPntCount);
+    return PatternOrDecimal(*this, place, *patternList, key, dPhys, uchDecPntCount);
 }
 
 krm_ulong CKRMCCommandConvSignalDataLsbPattern::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -147,12 +172,9 @@ krm_ulong CKRMCCommandConvSignalDataLsbPattern::StringConversion(CKRMString* res
                                                                  unsigned char uchDecPntCount, krm_ulong, krm_ulong,
                                                                  CKRMList<CKRMCCommandDispData>* patternList,
                                                                  CKRMString*, krm_ulong) {
-    if (result == nullptr || patternList == nullptr) {
+    const Place place = {result, stringId};
+    if (!BeginText(place, patternList)) {
         return kNullArgument;
     }
-    ResetStringId(stringId);
-    if (ShowPattern(*patternList, ulRawData, result, stringId)) {
-        return 0;
-    }
-    return DecStringConversion(result, dPhys, uchDecPntCount);
+    return PatternOrDecimal(*this, place, *patternList, ulRawData, dPhys, uchDecPntCount);
 }

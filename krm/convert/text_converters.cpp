@@ -5,6 +5,7 @@
 
 #include "krm/convert/internal/numbers.h"
 #include "krm/convert/internal/short_text.h"
+#include "krm/core/internal/digits.h"
 
 using krm::kNullArgument;
 using krm::convert::BeginText;
@@ -13,11 +14,15 @@ using krm::convert::ShortText;
 namespace {
 
 /// Degrees behind the letter of their half of the globe. NaN counts as north and east.
-void ShowDegrees(CKRMString& result, double degrees, const char* positive, const char* negative) {
+krm_ulong ShowDegrees(CKRMString* result, double degrees, const char* positive, const char* negative) {
+    if (result == nullptr) {
+        return kNullArgument;
+    }
     constexpr unsigned char kDecimals = 4;
     const bool below = degrees < 0;
-    result = below ? negative : positive;
-    result += krm::convert::DecimalText(below ? -degrees : degrees, kDecimals).Text();
+    *result = below ? negative : positive;
+    *result += krm::convert::DecimalText(below ? -degrees : degrees, kDecimals).Text();
+    return 0;
 }
 
 }  // namespace
@@ -45,11 +50,7 @@ krm_ulong CKRMCCommandConvSignalDataHex2::StringConversion(CKRMString* result, k
 krm_ulong CKRMCCommandConvSignalDataDiagCode::ValueConversion(double* result, krm_ulong ulRawData, unsigned char,
                                                               unsigned short, krm_long, krm_long, krm_long,
                                                               unsigned char) {
-    if (result == nullptr) {
-        return kNullArgument;
-    }
-    *result = ulRawData;
-    return 0;
+    return krm::convert::AssignValue(result, ulRawData);
 }
 
 krm_ulong CKRMCCommandConvSignalDataDiagCode::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -69,22 +70,14 @@ krm_ulong CKRMCCommandConvSignalDataLatitude::StringConversion(CKRMString* resul
                                                                unsigned char, unsigned short, unsigned char, krm_ulong,
                                                                krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
                                                                krm_ulong) {
-    if (result == nullptr) {
-        return kNullArgument;
-    }
-    ShowDegrees(*result, dPhys, "N", "S");
-    return 0;
+    return ShowDegrees(result, dPhys, "N", "S");
 }
 
 krm_ulong CKRMCCommandConvSignalDataLongitude::StringConversion(CKRMString* result, krm_ulong*, double dPhys, krm_ulong,
                                                                 unsigned char, unsigned short, unsigned char, krm_ulong,
                                                                 krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
                                                                 krm_ulong) {
-    if (result == nullptr) {
-        return kNullArgument;
-    }
-    ShowDegrees(*result, dPhys, "E", "W");
-    return 0;
+    return ShowDegrees(result, dPhys, "E", "W");
 }
 
 krm_ulong CKRMCCommandConvSignalDataSoftwareVersion::StringConversion(CKRMString* result, krm_ulong* stringId, double,
@@ -116,10 +109,12 @@ krm_ulong CKRMCCommandConvSignalDataBin::StringConversion(CKRMString* result, kr
         return kNullArgument;
     }
     std::array<char, kMostBits + 1> digits;
-    for (std::size_t i = 0; i < ushBitLength; ++i) {
-        digits[i] = ((ulRawData >> (ushBitLength - 1 - i)) & 1U) != 0 ? '1' : '0';
+    char* end = digits.data();
+    if (ushBitLength != 0) {
+        const krm_ulong bits = ulRawData & (0xFFFFFFFFU >> (kMostBits - ushBitLength));
+        end = krm::core::WriteBits<1>(end, bits, ushBitLength);
     }
-    digits[ushBitLength] = '\0';
+    *end = '\0';
     *result = digits.data();
     return 0;
 }

@@ -2,27 +2,33 @@
 
 #include "krm/convert/internal/numbers.h"
 #include "krm/convert/internal/short_text.h"
+#include "krm/convert/internal/steps.h"
 #include "krm/convert/internal/user_locale.h"
 
 using krm::kNullArgument;
 using krm::convert::BeginText;
+using krm::convert::Scaling;
 using krm::convert::ShortText;
+using krm::convert::Steps;
 using krm::convert::TruncateToLow32;
 using krm::convert::UserLocale;
 
-// Classes that convert alike are siblings, not relatives, so what they share stands in functions here.
 namespace {
 
-/// Three bytes, each scaled by itself with `physical(result, byte)`, put together again.
-template <class Physical>
-krm_ulong ThreeBytesValue(double* result, krm_ulong raw, Physical physical) {
+constexpr unsigned char kUnsigned = 0;
+constexpr unsigned short kBitsOfAPart = 8;
+constexpr unsigned char kNoDecimals = 0;
+
+/// Three bytes, each scaled by itself, put together again.
+krm_ulong ThreeBytesValue(CKRMCCommandConvSignalData& converter, double* result, krm_ulong raw,
+                          const Scaling& scaling) {
     if (result == nullptr) {
         return kNullArgument;
     }
     krm_ulong value = 0;
     for (unsigned shift = 0; shift < 24; shift += 8) {
         double part = 0;
-        const krm_ulong status = physical(&part, (raw >> shift) & 0xFFU);
+        const krm_ulong status = Steps::Physical(converter, &part, (raw >> shift) & 0xFFU, scaling);
         if (status != 0) {
             return status;
         }
@@ -44,32 +50,33 @@ krm_ulong ThreeBytesText(CKRMString* result, krm_ulong* stringId, double physica
     return 0;
 }
 
-/// A count of minutes, from `physical(result)`, as hours above the minutes in the low byte.
-template <class Physical>
-krm_ulong HoursAndMinutesValue(double* result, Physical physical) {
-    if (result == nullptr) {
-        return kNullArgument;
-    }
-    double count = 0;
-    const krm_ulong status = physical(&count);
-    if (status != 0) {
-        return status;
-    }
-    const krm_ulong minutes = TruncateToLow32(count);
-    *result = static_cast<krm_ulong>((minutes % 60) | ((minutes / 60) << 8U));
-    return 0;
+/// A scaled count of minutes as hours above the minutes in the low byte.
+krm_ulong HoursAndMinutesValue(CKRMCCommandConvSignalData& converter, double* result, krm_ulong raw,
+                               const Scaling& scaling) {
+    return krm::convert::ShapedValue(converter, result, raw, scaling, [](double count) -> double {
+        const krm_ulong minutes = TruncateToLow32(count);
+        return static_cast<krm_ulong>((minutes % 60) | ((minutes / 60) << 8U));
+    });
 }
 
 void ShowSpan(CKRMString& result, krm_ulong hours, krm_ulong minutes) {
     ShortText().Decimal(hours).Words("hrs,").Decimal(minutes).Words("min").AssignTo(result);
 }
 
-krm_ulong RawValue(double* result, krm_ulong raw) {
-    if (result == nullptr) {
-        return kNullArgument;
+bool IsInRange(krm::convert::CalendarDay day) {
+    return day.year >= 1900 && day.month >= 1 && day.month <= 12 && day.day >= 1 && day.day <= 31;
+}
+
+bool IsInRange(krm::convert::TimeOfDay time) {
+    return time.hour < 24 && time.minute < 60 && time.second < 60;
+}
+
+/// A day or time as the locale writes it, or `otherwise` where that can't be.
+template <class When>
+void ShowByLocale(CKRMString& result, const UserLocale* locale, When when, const char* otherwise) {
+    if (!IsInRange(when) || locale == nullptr || !locale->Write(when, result)) {
+        result = otherwise;
     }
-    *result = raw;
-    return 0;
 }
 
 }  // namespace
@@ -77,11 +84,7 @@ krm_ulong RawValue(double* result, krm_ulong raw) {
 krm_ulong CKRMCCommandConvSignalDataDate::ValueConversion(double* result, krm_ulong ulRawData, unsigned char uchSigned,
                                                           unsigned short, krm_long lMul, krm_long lDiv,
                                                           krm_long lOffset, unsigned char) {
-    const auto scaled = [&](double* physical, krm_ulong byte) {
-        constexpr unsigned short kBits = 8;
-        return PhysicalConversion(physical, byte, uchSigned, kBits, lMul, lDiv, lOffset, 0);
-    };
-    return ThreeBytesValue(result, ulRawData, scaled);
+    return ThreeBytesValue(*this, result, ulRawData, {uchSigned, kBitsOfAPart, lMul, lDiv, lOffset, kNoDecimals});
 }
 
 krm_ulong CKRMCCommandConvSignalDataDate::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -94,11 +97,7 @@ krm_ulong CKRMCCommandConvSignalDataDate::StringConversion(CKRMString* result, k
 krm_ulong CKRMCCommandConvSignalDataTime::ValueConversion(double* result, krm_ulong ulRawData, unsigned char uchSigned,
                                                           unsigned short, krm_long lMul, krm_long lDiv,
                                                           krm_long lOffset, unsigned char) {
-    const auto scaled = [&](double* physical, krm_ulong byte) {
-        constexpr unsigned short kBits = 8;
-        return PhysicalConversion(physical, byte, uchSigned, kBits, lMul, lDiv, lOffset, 0);
-    };
-    return ThreeBytesValue(result, ulRawData, scaled);
+    return ThreeBytesValue(*this, result, ulRawData, {uchSigned, kBitsOfAPart, lMul, lDiv, lOffset, kNoDecimals});
 }
 
 krm_ulong CKRMCCommandConvSignalDataTime::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -111,11 +110,7 @@ krm_ulong CKRMCCommandConvSignalDataTime::StringConversion(CKRMString* result, k
 krm_ulong CKRMCCommandConvSignalDataTimeHHMM::ValueConversion(double* result, krm_ulong ulRawData, unsigned char,
                                                               unsigned short ushBitLength, krm_long lMul, krm_long lDiv,
                                                               krm_long lOffset, unsigned char) {
-    const auto minutes = [&](double* physical) {
-        constexpr unsigned char kUnsigned = 0;
-        return PhysicalConversion(physical, ulRawData, kUnsigned, ushBitLength, lMul, lDiv, lOffset, 0);
-    };
-    return HoursAndMinutesValue(result, minutes);
+    return HoursAndMinutesValue(*this, result, ulRawData, {kUnsigned, ushBitLength, lMul, lDiv, lOffset, kNoDecimals});
 }
 
 krm_ulong CKRMCCommandConvSignalDataTimeHHMM::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -133,11 +128,7 @@ krm_ulong CKRMCCommandConvSignalDataTimeHHMM::StringConversion(CKRMString* resul
 krm_ulong CKRMCCommandConvSignalDataTimeHHMM2::ValueConversion(double* result, krm_ulong ulRawData, unsigned char,
                                                                unsigned short ushBitLength, krm_long lMul,
                                                                krm_long lDiv, krm_long lOffset, unsigned char) {
-    const auto minutes = [&](double* physical) {
-        constexpr unsigned char kUnsigned = 0;
-        return PhysicalConversion(physical, ulRawData, kUnsigned, ushBitLength, lMul, lDiv, lOffset, 0);
-    };
-    return HoursAndMinutesValue(result, minutes);
+    return HoursAndMinutesValue(*this, result, ulRawData, {kUnsigned, ushBitLength, lMul, lDiv, lOffset, kNoDecimals});
 }
 
 krm_ulong CKRMCCommandConvSignalDataTimeHHMM2::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -169,7 +160,7 @@ CKRMCCommandConvSignalDataDate2::CKRMCCommandConvSignalDataDate2() : m_locale(Us
 krm_ulong CKRMCCommandConvSignalDataDate2::ValueConversion(double* result, krm_ulong ulRawData, unsigned char,
                                                            unsigned short, krm_long, krm_long, krm_long,
                                                            unsigned char) {
-    return RawValue(result, ulRawData);
+    return krm::convert::AssignValue(result, ulRawData);
 }
 
 krm_ulong CKRMCCommandConvSignalDataDate2::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -182,10 +173,7 @@ krm_ulong CKRMCCommandConvSignalDataDate2::StringConversion(CKRMString* result, 
     const krm_ulong value = TruncateToLow32(dPhys);
     const krm::convert::CalendarDay day = {static_cast<int>(value >> 16U), static_cast<int>((value >> 8U) & 0xFFU),
                                            static_cast<int>(value & 0xFFU)};
-    const bool valid = day.year >= 1900 && day.month >= 1 && day.month <= 12 && day.day >= 1 && day.day <= 31;
-    if (!valid || m_locale == nullptr || !m_locale->Write(day, *result)) {
-        *result = "-";
-    }
+    ShowByLocale(*result, m_locale.get(), day, "-");
     return 0;
 }
 
@@ -194,7 +182,7 @@ CKRMCCommandConvSignalDataTime2::CKRMCCommandConvSignalDataTime2() : m_locale(Us
 krm_ulong CKRMCCommandConvSignalDataTime2::ValueConversion(double* result, krm_ulong ulRawData, unsigned char,
                                                            unsigned short, krm_long, krm_long, krm_long,
                                                            unsigned char) {
-    return RawValue(result, ulRawData);
+    return krm::convert::AssignValue(result, ulRawData);
 }
 
 krm_ulong CKRMCCommandConvSignalDataTime2::StringConversion(CKRMString* result, krm_ulong* stringId, double dPhys,
@@ -207,9 +195,6 @@ krm_ulong CKRMCCommandConvSignalDataTime2::StringConversion(CKRMString* result, 
     const krm_ulong value = TruncateToLow32(dPhys);
     const krm::convert::TimeOfDay time = {static_cast<int>(value >> 24U), static_cast<int>((value >> 16U) & 0xFFU),
                                           static_cast<int>((value >> 8U) & 0xFFU)};
-    const bool valid = time.hour < 24 && time.minute < 60 && time.second < 60;
-    if (!valid || m_locale == nullptr || !m_locale->Write(time, *result)) {
-        result->Empty();
-    }
+    ShowByLocale(*result, m_locale.get(), time, "");
     return 0;
 }

@@ -6,7 +6,8 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-#include <string_view>
+
+#include "krm/core/internal/digits.h"
 
 namespace krm::convert {
 
@@ -17,7 +18,7 @@ namespace {
 ///
 /// The value is m x 2^-shift with a 53-bit m. m x 1000 fits 63 bits, so the scaled value is exact, and rounding it to an
 /// integer, ties to even, rounds the decimal text correctly.
-char* WriteShortDecimal(double value, unsigned char decimals, char* first, char* last) {
+char* WriteShortDecimal(char* first, double value, unsigned char decimals) {
     constexpr std::array<std::uint64_t, 4> kScales = {1, 10, 100, 1000};
     constexpr int kFractionBits = 52;
     constexpr int kExponentBias = 1023;
@@ -39,15 +40,10 @@ char* WriteShortDecimal(double value, unsigned char decimals, char* first, char*
     if ((bits >> 63U) != 0) {
         *end++ = '-';
     }
-    end = std::to_chars(end, last, number / scale).ptr;
+    end = core::WriteDecimal(end, number / scale);
     if (decimals > 0) {
-        *end = '.';
-        std::uint64_t fraction = number % scale;
-        for (int i = decimals; i > 0; --i) {
-            end[i] = static_cast<char>('0' + fraction % 10);
-            fraction /= 10;
-        }
-        end += decimals + 1;
+        *end++ = '.';
+        end = core::WriteLastDecimals(end, number, decimals);
     }
     return end;
 }
@@ -57,7 +53,7 @@ char* WriteShortDecimal(double value, unsigned char decimals, char* first, char*
 DecimalText::DecimalText(double value, unsigned char decimals) {
     char* const first = m_text.data();
     char* const last = first + m_text.size() - 1;
-    char* end = WriteShortDecimal(value, decimals, first, last);
+    char* end = WriteShortDecimal(first, value, decimals);
     if (end == nullptr && std::isnan(value)) {  // some libraries' to_chars adds which kind of NaN it is
         const std::string_view name = std::signbit(value) ? "-nan" : "nan";
         end = std::copy(name.begin(), name.end(), first);
@@ -67,28 +63,19 @@ DecimalText::DecimalText(double value, unsigned char decimals) {
     *end = '\0';
 }
 
-void AssignHex(CKRMString& result, const char* prefix, double value, unsigned short bitLength) {
+krm_ulong AssignHex(CKRMString* result, std::string_view prefix, double value, unsigned short bitLength) {
+    if (result == nullptr) {
+        return kNullArgument;
+    }
     constexpr std::size_t kMostDigits = (0xFFFF + 3) / 4;
     constexpr std::size_t kPrefixRoom = 2;
     std::array<char, kPrefixRoom + kMostDigits + 1> text;  // a value's own digits, at most 8, are fewer
-
-    std::array<char, 8> digits;
-    char* const digitsEnd = std::to_chars(digits.data(), digits.data() + digits.size(), TruncateToLow32(value), 16).ptr;
-    const auto count = static_cast<std::size_t>(digitsEnd - digits.data());
     const auto width = static_cast<std::size_t>((bitLength + 3) / 4);
-
-    char* end = text.data();
-    for (const char* p = prefix; *p != '\0'; ++p) {
-        *end++ = *p;
-    }
-    if (width > count) {
-        end = std::fill_n(end, width - count, '0');
-    }
-    for (const char* p = digits.data(); p != digitsEnd; ++p) {
-        *end++ = *p >= 'a' ? static_cast<char>(*p - 'a' + 'A') : *p;
-    }
+    char* end = std::copy(prefix.begin(), prefix.end(), text.data());
+    end = core::WriteHexadecimal(end, TruncateToLow32(value), core::kUpperCase, width);
     *end = '\0';
-    result = text.data();
+    *result = text.data();
+    return 0;
 }
 
 bool TakeFirstByte(CKRMCCommandDispData* record, const unsigned char* data, krm_ulong dataLen) {

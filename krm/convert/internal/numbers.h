@@ -5,7 +5,9 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <string_view>
 
+#include "krm/core/error_codes.h"
 #include "krm/messages/diag/display.h"
 #include "krm/platform/platform.h"
 
@@ -28,8 +30,8 @@ inline krm_ulong TruncateToLow32(double value) {
     return Low32(Truncate(value));
 }
 
-/// 10^`exponent` by repeated squaring in double: from 10^23 on not always the nearest double, but the same value that
-/// every earlier engine has computed with.
+/// 10^`exponent` by repeated squaring in double. From 10^23 on that is not always the nearest double; it is part of the
+/// result all the same, so that values compare equal with those that a user has recorded.
 constexpr double RepeatedSquaring(unsigned exponent) {
     double result = 1;
     double base = 10;
@@ -71,9 +73,18 @@ private:
     std::array<char, 1 + 309 + 1 + 255 + 1> m_text;
 };
 
+/// Assigns a physical value that needs no step; the status of a converter's operation.
+inline krm_ulong AssignValue(double* result, double value) {
+    if (result == nullptr) {
+        return kNullArgument;
+    }
+    *result = value;
+    return 0;
+}
+
 /// Assigns `prefix` and the low 32 bits of `value`, truncated, in upper-case hexadecimal with at least one digit per
-/// four bits of `bitLength`.
-void AssignHex(CKRMString& result, const char* prefix, double value, unsigned short bitLength);
+/// four bits of `bitLength`; the status of a converter's operation.
+krm_ulong AssignHex(CKRMString* result, std::string_view prefix, double value, unsigned short bitLength);
 
 /// Sets the words ID of a text to 0: no pattern. Callers may leave it out.
 inline void ResetStringId(krm_ulong* stringId) {
