@@ -1,5 +1,5 @@
-// The table of all conversion types: which converter each code leads to, and what that shows. The one place where the
-// codes stand; CKRMCCommandConvSignalData::CreateConverter is made from it.
+// The table of all conversion types: which converter each code leads to, and what that shows.
+// CKRMCCommandConvSignalData::CreateConverter is made from it.
 #ifndef KRM_CONVERT_CONVERSION_TYPES_H_
 #define KRM_CONVERT_CONVERSION_TYPES_H_
 
@@ -138,7 +138,7 @@ inline constexpr ConversionType kConversionTypes[] = {
     {.code = 24,
      .name = "illuminance with texts for its limits",
      .className = "CKRMCCommandConvSignalDataIlluminanceMinMax",
-     .shows = "an illuminance, linear in two pieces, without scaling; beyond the limits the text of pattern 0 or 1",
+     .shows = "an illuminance, linear in two pieces, without scaling; at a limit or beyond the text of pattern 0 or 1",
      .example =
          {.raw = 4000, .bitLength = 16, .max = 3500, .patternKey = 1, .patternText = "Bright", .text = "Bright"}},
     {.code = 101,
@@ -190,7 +190,7 @@ inline constexpr ConversionType kConversionTypes[] = {
      .shows = "the two low bytes of the raw value in hexadecimal with a point between them",
      .example = {.raw = 0x0123, .bitLength = 16, .text = "1.23"}},
     {.code = 110,
-     .name = "falling line",
+     .name = "linear with fixed coefficients",
      .className = "CKRMCCommandConvSignalDataSpecial2",
      .shows = "11.515 less 0.0338 times the scaled value",
      .example = {.raw = 1000, .bitLength = 16, .decimals = 1, .text = "8.1"}},

@@ -115,26 +115,26 @@ krm_ulong CKRMCCommandConvSignalData::ConvCommandDispData(CKRMCCommandDispData* 
                                                           unsigned char uchDecPntCount, krm_ulong ulMax,
                                                           krm_ulong ulMin, CKRMList<CKRMCCommandDispData>* patternList,
                                                           CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
-    const Signal<CKRMCCommandDispData> signal = {{uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount},
-                                                 ulMax,
-                                                 ulMin,
-                                                 patternList,
-                                                 defaultPattern,
-                                                 ulDefaultStringId};
-    return Show(*this, record, ulRawData, signal);
+    return Show<CKRMCCommandDispData>(*this, record, ulRawData,
+                                      {{uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount},
+                                       ulMax,
+                                       ulMin,
+                                       patternList,
+                                       defaultPattern,
+                                       ulDefaultStringId});
 }
 
 krm_ulong CKRMCCommandConvSignalData::ConvCommandDispVariableData(
     CKRMCCommandDispData* record, krm_ulong ulRawData, unsigned char uchSigned, unsigned short ushBitLength,
     krm_long lMul, krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin,
     CKRMList<CKRMCCommandDispVariableData>* patternList, CKRMString* defaultPattern, krm_ulong ulDefaultStringId) {
-    const Signal<CKRMCCommandDispVariableData> signal = {{uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount},
-                                                         ulMax,
-                                                         ulMin,
-                                                         patternList,
-                                                         defaultPattern,
-                                                         ulDefaultStringId};
-    return Show(*this, record, ulRawData, signal);
+    return Show<CKRMCCommandDispVariableData>(*this, record, ulRawData,
+                                              {{uchSigned, ushBitLength, lMul, lDiv, lOffset, uchDecPntCount},
+                                               ulMax,
+                                               ulMin,
+                                               patternList,
+                                               defaultPattern,
+                                               ulDefaultStringId});
 }
 
 krm_ulong CKRMCCommandConvSignalData::ConvLogicalValue(krm_ulong* result, double value, unsigned char uchSigned,
