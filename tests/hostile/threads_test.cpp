@@ -14,8 +14,8 @@
 #include "tests/messages/auxiliary/stored_data_fields.h"
 #include "tests/messages/auxiliary/unit_conversion_fields.h"
 #include "tests/messages/auxiliary/words_table_fields.h"
+#include "tests/messages/diag/translation_fields.h"
 #include "tests/messages/diag/trouble_codes_fields.h"
-#include "tests/messages/diag/words_fields.h"
 #include "tests/support/converters.h"
 #include "tests/support/fields.h"
 

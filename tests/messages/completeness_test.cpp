@@ -5,27 +5,19 @@
 
 #include <cstddef>
 #include <iterator>
+#include <memory>
 #include <ostream>
 #include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <typeinfo>
 #include <vector>
 
 #include "krm/framework/commands.h"
 #include "krm/framework/message.h"
-#include "tests/messages/auxiliary/stored_data_fields.h"
-#include "tests/messages/auxiliary/unit_conversion_fields.h"
-#include "tests/messages/auxiliary/viewer_fields.h"
-#include "tests/messages/auxiliary/words_table_fields.h"
-#include "tests/messages/diag/active_test_fields.h"
-#include "tests/messages/diag/customize_fields.h"
-#include "tests/messages/diag/data_monitor_fields.h"
-#include "tests/messages/diag/display_fields.h"
-#include "tests/messages/diag/oscilloscope_memory_fields.h"
-#include "tests/messages/diag/trouble_codes_fields.h"
-#include "tests/messages/diag/vehicle_fields.h"
-#include "tests/messages/diag/words_fields.h"
+#include "krm/messages/all_messages.h"
+#include "tests/messages/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/any_class.h"
 
@@ -39,12 +31,15 @@ struct ListedMessage {
     const char* name;
     krm_ulong type;
     krm_ulong id;
+    std::string_view command;
     AnyClass any;
     std::size_t baseSize;
     bool hasItsBase;
+    krm::Direction direction;
     krm_ulong typeConstant;
     krm_ulong idConstant;
     CKRMBaseAdaptationData& (*untyped)(void* it);
+    void* (*typed)(CKRMBaseAdaptationData& it);  ///< null where the object is not of just this class
 };
 
 void PrintTo(const ListedMessage& message, std::ostream* out) {
@@ -52,19 +47,24 @@ void PrintTo(const ListedMessage& message, std::ostream* out) {
 }
 
 template <class Message, class Base>
-constexpr ListedMessage Listed(const char* name, krm_ulong type, krm_ulong id) {
+constexpr ListedMessage Listed(const char* name, krm_ulong type, krm_ulong id, std::string_view command) {
     return {name,
             type,
             id,
+            command,
             AnyClassOf<Message>(),
             sizeof(Base),
             std::is_base_of_v<Base, Message>,
+            Message::kDirection,
             Message::kCommandType,
             Message::kCommandId,
-            [](void* it) -> CKRMBaseAdaptationData& { return *static_cast<Message*>(it); }};
+            [](void* it) -> CKRMBaseAdaptationData& { return *static_cast<Message*>(it); },
+            [](CKRMBaseAdaptationData& it) -> void* {
+                return typeid(it) == typeid(Message) ? static_cast<Message*>(&it) : nullptr;
+            }};
 }
 
-#define KRM_LISTED(name, base, type, id) Listed<name, base>(#name, type, id),
+#define KRM_LISTED(Class, Base, type, id, command) Listed<Class, Base>(#Class, type, id, command),
 constexpr ListedMessage kMessages[] = {KRM_ALL_MESSAGES(KRM_LISTED)};
 #undef KRM_LISTED
 
@@ -112,6 +112,38 @@ TEST_P(EveryMessage, AssignmentsShareNothing) {
     krm::test::ExpectAssignmentsShareNothing(GetParam().any);
 }
 
+// A message made from what stands in front of its content.
+
+TEST_P(EveryMessage, IsMadeFromTypeIdAndDirection) {
+    const std::string_view name = GetParam().name;
+    const krm::Direction direction = name.ends_with("Snd") ? krm::Direction::Send : krm::Direction::Receive;
+    EXPECT_EQ(GetParam().direction, direction);
+    const std::unique_ptr<CKRMBaseAdaptationData> made = krm::NewMessage(GetParam().type, GetParam().id, direction);
+    ASSERT_NE(made, nullptr);
+    void* const typed = GetParam().typed(*made);
+    ASSERT_NE(typed, nullptr) << typeid(*made).name();
+    const AnyClass::Object fresh = GetParam().any.make();
+    EXPECT_EQ(GetParam().any.describe(typed), GetParam().any.describe(fresh.get()));
+}
+
+TEST(NewMessage, GivesNullForWhatIsNoMessages) {
+    const krm_ulong strange[][2] = {{0, 0}, {0, 2}, {1, 0}, {1, 1},  {1, 3},  {1, 128}, {1, 0xFFFFFFFFU},
+                                    {2, 6}, {3, 1}, {8, 3}, {10, 6}, {14, 3}, {15, 1},  {0xFFFFFFFFU, 2}};
+    for (const auto& [type, id] : strange) {
+        EXPECT_EQ(krm::NewMessage(type, id, krm::Direction::Send), nullptr) << type << ' ' << id;
+        EXPECT_EQ(krm::NewMessage(type, id, krm::Direction::Receive), nullptr) << type << ' ' << id;
+    }
+    EXPECT_EQ(krm::NewMessage(1, 2, static_cast<krm::Direction>(2)), nullptr);
+}
+
+// The library's list of messages is the one of the tests, in its order.
+template <class First, class... Others>
+krm::ClassList<Others...> WithoutFirst(krm::ClassList<First, Others...>);
+#define KRM_NEXT(Class, ...) , Class
+static_assert(
+    std::is_same_v<krm::AllMessages, decltype(WithoutFirst(krm::ClassList<void KRM_ALL_MESSAGES(KRM_NEXT)>()))>);
+#undef KRM_NEXT
+
 // The name of the class of `command`'s request (`direction` "Snd") or answer ("Rcv").
 std::string ClassName(const krm::Command& command, std::string_view direction) {
     std::string_view family;
@@ -155,6 +187,7 @@ TEST(TableOfCommands, HasTheCommandOfEachMessage) {
     for (const ListedMessage& message : kMessages) {
         const krm::Command* const command = krm::FindCommand(message.type, message.id);
         ASSERT_NE(command, nullptr) << message.name;
+        EXPECT_EQ(command->name, message.command) << message.name;
         EXPECT_THAT(message.name, testing::AnyOf(ClassName(*command, "Snd"), ClassName(*command, "Rcv")));
     }
 }

@@ -6,18 +6,7 @@
 #include <string>
 
 #include "krm/adaptation_data.h"
-#include "tests/messages/auxiliary/stored_data_fields.h"
-#include "tests/messages/auxiliary/unit_conversion_fields.h"
-#include "tests/messages/auxiliary/viewer_fields.h"
-#include "tests/messages/auxiliary/words_table_fields.h"
-#include "tests/messages/diag/active_test_fields.h"
-#include "tests/messages/diag/customize_fields.h"
-#include "tests/messages/diag/data_monitor_fields.h"
-#include "tests/messages/diag/display_fields.h"
-#include "tests/messages/diag/oscilloscope_memory_fields.h"
-#include "tests/messages/diag/trouble_codes_fields.h"
-#include "tests/messages/diag/vehicle_fields.h"
-#include "tests/messages/diag/words_fields.h"
+#include "tests/messages/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/fields.h"
 

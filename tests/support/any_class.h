@@ -1,5 +1,6 @@
-// A class of the library as a handful of functions, so that one test, compiled once, serves every class: a typed suite
-// over all of them takes the compiler minutes.
+// The check that a class is a plain value: its fields are all that it has, it starts as documented, its copies carry every
+// field and share nothing, and Clear restores the start. A class of the library comes as a handful of functions, so that
+// one test, compiled once, serves every class: a typed suite over all of them takes the compiler minutes.
 #ifndef KRM_TESTS_SUPPORT_ANY_CLASS_H_
 #define KRM_TESTS_SUPPORT_ANY_CLASS_H_
 
@@ -17,7 +18,6 @@
 #include "krm/messages/auxiliary/viewer.h"
 #include "krm/messages/diag/data_monitor.h"
 #include "tests/support/fields.h"
-#include "tests/support/value_checks.h"
 
 namespace krm::test {
 
@@ -46,18 +46,6 @@ inline void GiveWhatClearKeeps(CKRMCGetImportStoredDataDsdiAdaptDataRcv& fresh,
     fresh.Data = filled.Data;
 }
 
-// Changes every value at every depth, a map's too.
-template <class T>
-void ChangeAll(T& it, Seed& seed) {
-    Change(it, seed);
-}
-inline void ChangeAll(CKRMCGetPcViewerResourceVdcAdptDataRcv& it, Seed& seed) {
-    Change(it.m_strResourceName, seed);
-    for (auto& [key, value] : it.m_cResourceMap) {
-        Change(value, seed);
-    }
-}
-
 /// Where a field lies in its object.
 struct FieldPlace {
     std::size_t offset;
@@ -76,6 +64,7 @@ struct AnyClass {
     void (*change)(void* it, Seed& seed);
     std::string (*describe)(void* it);
     bool (*isZero)(void* it);
+    bool (*hasUnfilled)(void* it);
     void (*clear)(void* it);
     void (*checkOtherStarts)(void* fresh);
     void (*giveWhatClearKeeps)(void* fresh, const void* filled);
@@ -107,9 +96,10 @@ constexpr AnyClass AnyClassOf() {
     };
     any.assign = [](void* target, const void* source) { *static_cast<T*>(target) = *static_cast<const T*>(source); };
     any.fill = [](void* it, Seed& seed) { Fill(*static_cast<T*>(it), seed); };
-    any.change = [](void* it, Seed& seed) { ChangeAll(*static_cast<T*>(it), seed); };
+    any.change = [](void* it, Seed& seed) { Change(*static_cast<T*>(it), seed); };
     any.describe = [](void* it) { return Described(*static_cast<T*>(it)); };
     any.isZero = [](void* it) { return IsZero(*static_cast<T*>(it)); };
+    any.hasUnfilled = [](void* it) { return HasUnfilled(*static_cast<T*>(it)); };
     any.size = sizeof(T);
     any.alignment = alignof(T);
     any.hasValues = true;
@@ -177,6 +167,7 @@ void ExpectNothingShared(const AnyClass& any, Copy copyOf) {
     Seed seed(79);
     AnyClass::Object source = any.make();
     any.fill(source.get(), seed);
+    ASSERT_FALSE(any.hasUnfilled(source.get()));
     const std::string before = any.describe(source.get());
     const AnyClass::Object changed = copyOf(source.get());
     const AnyClass::Object kept = copyOf(source.get());

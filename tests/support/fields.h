@@ -109,6 +109,28 @@ void Fill(T& it, Seed& seed) {
     }
 }
 
+/// Changes every value that `it` holds, at any depth; lists and maps keep their length.
+template <class T>
+void Change(T& it, Seed& seed) {
+    if constexpr (std::is_same_v<T, bool>) {
+        it = !it;
+    } else if constexpr (std::is_integral_v<T>) {
+        it = static_cast<T>(it ^ 1);
+    } else if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, CKRMString>) {
+        Fill(it, seed);
+    } else if constexpr (std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
+        for (auto& [key, value] : it) {
+            Fill(value, seed);
+        }
+    } else if constexpr (IsList<T> || std::is_array_v<T>) {
+        for (auto& element : it) {
+            Change(element, seed);
+        }
+    } else {
+        ForEachField(it, [&](auto& field) { Change(field, seed); });
+    }
+}
+
 /// Whether every field of `it`, at any depth, is 0, false or empty.
 template <class T>
 bool IsZero(T& it) {
@@ -128,6 +150,25 @@ bool IsZero(T& it) {
         bool zero = true;
         ForEachField(it, [&](auto& field) { zero = zero && IsZero(field); });
         return zero;
+    }
+}
+
+/// Whether `it` has a list, at any depth, that is empty, or a value that is 0: after Fill there is none.
+template <class T>
+bool HasUnfilled(T& it) {
+    if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, CKRMString> ||
+                  std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
+        return IsZero(it);
+    } else if constexpr (IsList<T> || std::is_array_v<T>) {
+        bool unfilled = IsList<T> && IsZero(it);
+        for (auto& element : it) {
+            unfilled = unfilled || HasUnfilled(element);
+        }
+        return unfilled;
+    } else {
+        bool unfilled = false;
+        ForEachField(it, [&](auto& field) { unfilled = unfilled || HasUnfilled(field); });
+        return unfilled;
     }
 }
 

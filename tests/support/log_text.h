@@ -3,12 +3,16 @@
 #ifndef KRM_TESTS_SUPPORT_LOG_TEXT_H_
 #define KRM_TESTS_SUPPORT_LOG_TEXT_H_
 
+#include <gtest/gtest.h>
+
 #include <cstddef>
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
+#include "krm/framework/record.h"
 #include "tests/support/log_capture.h"
 
 namespace krm::test {
@@ -56,6 +60,19 @@ inline std::string Under(std::string_view prefix, std::string_view lines) {
         begin = end;
     }
     return text;
+}
+
+/// Checks that the message or record `it` writes `expected`, a record under the prefix "P", and returns 0 even though the
+/// writer of the log fails.
+template <class T>
+void ExpectLog(T& it, std::initializer_list<std::string_view> expected) {
+    LogCapture log(-1);
+    if constexpr (std::is_base_of_v<CKRMCBaseAdaptDataStructure, T>) {
+        EXPECT_EQ(it.ErrWriteOperationLogStructure("%s", "P"), 0);
+    } else {
+        EXPECT_EQ(it.ErrWriteOperationLog(), 0);
+    }
+    EXPECT_EQ(Joined(log.Texts()), Log(expected));
 }
 
 }  // namespace krm::test

@@ -4,73 +4,27 @@
 
 #include <cstddef>
 #include <cstring>
-#include <memory>
 #include <new>
-#include <type_traits>
+#include <string>
 
 #include "tests/messages/auxiliary/stored_data_fields.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_capture.h"
+#include "tests/support/log_text.h"
 
 namespace {
 
 using krm::test::Described;
+using krm::test::ExpectLog;
 using krm::test::Fill;
 using krm::test::IsZero;
 using krm::test::LogCapture;
-using krm::test::MessageLines;
 using krm::test::Seed;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 static_assert(sizeof(CKRMCStoredDataSystemTime) == 16, "16 bytes and nothing else");
+
 static_assert(sizeof(CKRMCStoredDataTimestamp) == 14, "two stamps of 7 bytes and nothing else");
-
-template <class T>
-class StoredDataRecord : public testing::Test {};
-using Records =
-    testing::Types<CKRMCStoredDataSystemTime, CKRMCStoredDataTimestamp, CKRMCStoredDataFileHeader,
-                   CKRMCStoredDataSystemInfo, CKRMCStoredDataFFD, CKRMCStoredDataAbsFFD, CKRMCStoredDataXPos,
-                   CKRMCStoredDataImportFileInfo, CKRMCStoredDataSystemData, CKRMCStoredDataImportFileData>;
-TYPED_TEST_SUITE(StoredDataRecord, Records);
-
-// Sets the one field that has no value in a new object.
-template <class T>
-void Settle(T&) {}
-void Settle(CKRMCStoredDataFFD& frame) {
-    frame.m_ushFFDNo = 0;
-}
-
-TYPED_TEST(StoredDataRecord, IsAPlainStructure) {
-    EXPECT_FALSE(std::is_polymorphic_v<TypeParam>);
-}
-
-TYPED_TEST(StoredDataRecord, StartsAtZeroAndReturnsThereByClear) {
-    TypeParam it;
-    Settle(it);
-    const std::string fresh = Described(it);
-    EXPECT_TRUE(IsZero(it)) << fresh;
-    Seed seed(61);
-    Fill(it, seed);
-    EXPECT_FALSE(IsZero(it));
-    it.Clear();
-    Settle(it);
-    EXPECT_EQ(Described(it), fresh);
-}
-
-TYPED_TEST(StoredDataRecord, CopiesEveryField) {
-    Seed seed(611);
-    auto source = std::make_unique<TypeParam>();
-    Fill(*source, seed);
-    const std::string filled = Described(*source);
-    TypeParam copy(*source);
-    TypeParam assigned;
-    Fill(assigned, seed);
-    assigned = *source;
-    source.reset();
-    EXPECT_EQ(Described(copy), filled);
-    EXPECT_EQ(Described(assigned), filled);
-}
 
 TEST(StoredData, ClearLeavesTheNumberOfAFreezeFrame) {
     CKRMCStoredDataFFD frame;
@@ -85,9 +39,9 @@ TEST(StoredData, ClearLeavesTheNumberOfAFreezeFrame) {
     EXPECT_TRUE(IsZero(frame.m_cFirstFFD));
     EXPECT_TRUE(IsZero(frame.m_cSecondFFD));
     EXPECT_TRUE(IsZero(frame.m_cDiagDetail));
-    EXPECT_EQ(frame.m_cFirstFFD.GetCommandID(), 6U);
-    EXPECT_EQ(frame.m_cSecondFFD.GetCommandID(), 6U);
-    EXPECT_EQ(frame.m_cDiagDetail.GetCommandID(), 44U);
+    EXPECT_EQ(frame.m_cFirstFFD.GetCommandID(), CKRMCGetFFDCmdAdaptDataRcv::kCommandId);
+    EXPECT_EQ(frame.m_cSecondFFD.GetCommandID(), CKRMCGetFFDCmdAdaptDataRcv::kCommandId);
+    EXPECT_EQ(frame.m_cDiagDetail.GetCommandID(), CKRMCGetDiagDetailCmdAdaptDataRcv::kCommandId);
 }
 
 TEST(StoredData, TheConstructorLeavesTheNumberOfAFreezeFrame) {
@@ -112,38 +66,15 @@ TEST(StoredData, CopiesCarryTheNumberOfAFreezeFrame) {
 
 TEST(StoredData, EmbeddedAnswersStartAsTheirCommandsDo) {
     CKRMCStoredDataSystemData system;
-    EXPECT_EQ(system.m_cDTC.GetCommandType(), 1U);
-    EXPECT_EQ(system.m_cDTC.GetCommandID(), 2U);
-    EXPECT_EQ(system.m_cIsAbsFFD.GetCommandID(), 45U);
-    EXPECT_EQ(system.m_cDataMonitorValue.GetCommandID(), 21U);
-    EXPECT_EQ(CKRMCStoredDataAbsFFD().m_cFFD.GetCommandID(), 6U);
-    EXPECT_EQ(CKRMCStoredDataImportFileInfo().m_cVehicle.GetCommandID(), 10U);
-    EXPECT_EQ(CKRMCStoredDataImportFileData().m_cVehicle.GetCommandID(), 10U);
-}
-
-TEST(StoredData, ANewFileListRequestIsEmpty) {
-    CKRMCGetImportFileInfoDsdiAdaptDataSnd request;
-    EXPECT_EQ(request.GetCommandType(), 8U);
-    EXPECT_EQ(request.GetCommandID(), 1U);
-    EXPECT_EQ(request.m_ulEcuId, 0U);
-    EXPECT_STREQ(request.m_strPath.GetText(), "");
-    EXPECT_EQ(request.m_ulFileType, 0U);
-}
-
-TEST(StoredData, TheOtherMessagesStartEmpty) {
-    CKRMCGetImportFileInfoDsdiAdaptDataRcv files;
-    EXPECT_EQ(files.GetCommandType(), 8U);
-    EXPECT_EQ(files.GetCommandID(), 1U);
-    EXPECT_EQ(files.Data.GetCount(), 0);
-    CKRMCGetImportStoredDataDsdiAdaptDataSnd request;
-    EXPECT_EQ(request.GetCommandType(), 8U);
-    EXPECT_EQ(request.GetCommandID(), 2U);
-    EXPECT_EQ(request.m_ulEcuId, 0U);
-    EXPECT_STREQ(request.m_strFileName.GetText(), "");
-    CKRMCGetImportStoredDataDsdiAdaptDataRcv content;
-    EXPECT_EQ(content.GetCommandType(), 8U);
-    EXPECT_EQ(content.GetCommandID(), 2U);
-    EXPECT_TRUE(IsZero(content));
+    EXPECT_EQ(system.m_cDTC.GetCommandType(), CKRMCGetDTCCmdAdaptDataRcv::kCommandType);
+    EXPECT_EQ(system.m_cDTC.GetCommandID(), CKRMCGetDTCCmdAdaptDataRcv::kCommandId);
+    EXPECT_EQ(system.m_cIsAbsFFD.GetCommandID(), CKRMCIsAbsFFDCmdAdaptDataRcv::kCommandId);
+    EXPECT_EQ(system.m_cDataMonitorValue.GetCommandID(), CKRMCGetDataMonitorValueCmdAdaptDataRcv::kCommandId);
+    EXPECT_EQ(CKRMCStoredDataAbsFFD().m_cFFD.GetCommandID(), CKRMCGetFFDCmdAdaptDataRcv::kCommandId);
+    EXPECT_EQ(CKRMCStoredDataImportFileInfo().m_cVehicle.GetCommandID(),
+              CKRMCVehicleDecisionCmdAdaptDataRcv::kCommandId);
+    EXPECT_EQ(CKRMCStoredDataImportFileData().m_cVehicle.GetCommandID(),
+              CKRMCVehicleDecisionCmdAdaptDataRcv::kCommandId);
 }
 
 template <class T>
@@ -163,41 +94,19 @@ TYPED_TEST(StoredDataMessage, WritesNothing) {
     EXPECT_THAT(log.Texts(), IsEmpty());
 }
 
-TYPED_TEST(StoredDataMessage, ClearRestoresTypeAndId) {
-    TypeParam message;
-    const krm_ulong id = message.GetCommandID();
-    message.SetCommandType(0);
-    message.SetCommandID(99);
-    message.Clear();
-    EXPECT_EQ(message.GetCommandType(), 8U);
-    EXPECT_EQ(message.GetCommandID(), id);
-}
-
 TEST(StoredData, TheBasesOfTheFamilyStillWrite) {
     CKRMCBaseDsdiAdaptDataSnd request(2);
     request.m_ulEcuId = 7;
-    EXPECT_THAT(MessageLines(request), ElementsAre("[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8",
-                                                   "[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
-                                                   "[CKRMCBaseDsdiAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=7"));
+    ExpectLog(request, {R"(
+[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8
+[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=2
+[CKRMCBaseDsdiAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=7
+)"});
     CKRMCBaseDsdiAdaptDataRcv answer(2);
-    EXPECT_THAT(MessageLines(answer), ElementsAre("[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8",
-                                                  "[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=2"));
-}
-
-TEST(StoredData, ClearOfRequestsAndFileListEmptiesThem) {
-    Seed seed(614);
-    CKRMCGetImportFileInfoDsdiAdaptDataSnd listRequest;
-    Fill(listRequest, seed);
-    listRequest.Clear();
-    EXPECT_TRUE(IsZero(listRequest));
-    CKRMCGetImportFileInfoDsdiAdaptDataRcv files;
-    Fill(files, seed);
-    files.Clear();
-    EXPECT_TRUE(IsZero(files));
-    CKRMCGetImportStoredDataDsdiAdaptDataSnd request;
-    Fill(request, seed);
-    request.Clear();
-    EXPECT_TRUE(IsZero(request));
+    ExpectLog(answer, {R"(
+[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8
+[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=2
+)"});
 }
 
 TEST(StoredData, ClearOfTheAnswerKeepsTheFilesContent) {
@@ -207,7 +116,7 @@ TEST(StoredData, ClearOfTheAnswerKeepsTheFilesContent) {
     const std::string filled = Described(answer);
     answer.SetCommandID(99);
     answer.Clear();
-    EXPECT_EQ(answer.GetCommandID(), 2U);
+    EXPECT_EQ(answer.GetCommandID(), CKRMCGetImportStoredDataDsdiAdaptDataRcv::kCommandId);
     EXPECT_EQ(Described(answer), filled);
     answer.Data.Clear();
     EXPECT_TRUE(IsZero(answer));

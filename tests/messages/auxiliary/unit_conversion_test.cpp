@@ -2,95 +2,21 @@
 
 #include <gmock/gmock.h>
 
-#include <type_traits>
+#include <string>
 
 #include "tests/messages/auxiliary/unit_conversion_fields.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_capture.h"
+#include "tests/support/log_text.h"
 
 namespace {
 
 using krm::test::Described;
+using krm::test::ExpectLog;
 using krm::test::Fill;
-using krm::test::IsZero;
-using krm::test::MessageLines;
 using krm::test::Seed;
 using testing::ElementsAre;
 using testing::EndsWith;
-
-static_assert(!std::is_polymorphic_v<CKRMCUnitConversionData> && !std::is_polymorphic_v<CKRMCUnitConvDataItemInfo> &&
-                  !std::is_polymorphic_v<CKRMCUnitConvDataSettingInfo> &&
-                  !std::is_polymorphic_v<CKRMCUnitConversionCreationData>,
-              "the unit records are plain structures");
-
-// A unit record as an item's list holds it.
-CKRMCUnitConversionData Unit(unsigned char id, const char* name) {
-    CKRMCUnitConversionData unit;
-    unit.m_uchUnitId = id;
-    unit.m_strUnitName = name;
-    return unit;
-}
-
-CKRMCUnitConversionData Setting(unsigned char item, unsigned char unit) {
-    CKRMCUnitConversionData setting;
-    setting.m_uchItemId = item;
-    setting.m_uchUnitId = unit;
-    return setting;
-}
-
-template <class T>
-class UnitConversionRecord : public testing::Test {};
-using Records = testing::Types<CKRMCUnitConversionData, CKRMCUnitConvDataItemInfo, CKRMCUnitConvDataSettingInfo,
-                               CKRMCUnitConversionCreationData>;
-TYPED_TEST_SUITE(UnitConversionRecord, Records);
-
-TYPED_TEST(UnitConversionRecord, StartsAtZeroAndReturnsThereByClear) {
-    TypeParam it;
-    EXPECT_TRUE(IsZero(it)) << Described(it);
-    Seed seed(62);
-    Fill(it, seed);
-    EXPECT_FALSE(IsZero(it));
-    it.Clear();
-    EXPECT_TRUE(IsZero(it)) << Described(it);
-}
-
-template <class T>
-class UnitConversionMessage : public testing::Test {};
-using Messages =
-    testing::Types<CKRMCCreateUnitConversionCommandUccAdaptDataSnd, CKRMCCreateUnitConversionCommandUccAdaptDataRcv,
-                   CKRMCGetUnitConversionInfoListUccAdaptDataSnd, CKRMCGetUnitConversionInfoListUccAdaptDataRcv,
-                   CKRMCSetUnitConversionInfoUccAdaptDataSnd, CKRMCSetUnitConversionInfoUccAdaptDataRcv,
-                   CKRMCGetUnitSettingGroupListUccAdaptDataSnd, CKRMCGetUnitSettingGroupListUccAdaptDataRcv,
-                   CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd, CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv>;
-TYPED_TEST_SUITE(UnitConversionMessage, Messages);
-
-TYPED_TEST(UnitConversionMessage, IsOfItsFamilyAndEmptyWhenNewAndWhenCleared) {
-    TypeParam message;
-    const krm_ulong id = message.GetCommandID();
-    EXPECT_EQ(message.GetCommandType(), 10U);
-    EXPECT_TRUE(IsZero(message));
-    Seed seed(621);
-    Fill(message, seed);
-    message.SetCommandType(0);
-    message.SetCommandID(99);
-    message.Clear();
-    EXPECT_EQ(message.GetCommandType(), 10U);
-    EXPECT_EQ(message.GetCommandID(), id);
-    EXPECT_TRUE(IsZero(message)) << Described(message);
-}
-
-TEST(UnitConversion, EachCommandHasItsId) {
-    EXPECT_EQ(CKRMCCreateUnitConversionCommandUccAdaptDataSnd().GetCommandID(), 1U);
-    EXPECT_EQ(CKRMCCreateUnitConversionCommandUccAdaptDataRcv().GetCommandID(), 1U);
-    EXPECT_EQ(CKRMCGetUnitConversionInfoListUccAdaptDataSnd().GetCommandID(), 2U);
-    EXPECT_EQ(CKRMCGetUnitConversionInfoListUccAdaptDataRcv().GetCommandID(), 2U);
-    EXPECT_EQ(CKRMCSetUnitConversionInfoUccAdaptDataSnd().GetCommandID(), 3U);
-    EXPECT_EQ(CKRMCSetUnitConversionInfoUccAdaptDataRcv().GetCommandID(), 3U);
-    EXPECT_EQ(CKRMCGetUnitSettingGroupListUccAdaptDataSnd().GetCommandID(), 4U);
-    EXPECT_EQ(CKRMCGetUnitSettingGroupListUccAdaptDataRcv().GetCommandID(), 4U);
-    EXPECT_EQ(CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd().GetCommandID(), 5U);
-    EXPECT_EQ(CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv().GetCommandID(), 5U);
-}
 
 TEST(UnitConversion, CreationIsLoggedElementByElement) {
     CKRMCCreateUnitConversionCommandUccAdaptDataSnd message;
@@ -101,15 +27,22 @@ TEST(UnitConversion, CreationIsLoggedElementByElement) {
     creation.m_ushIdType = 65535;
     creation.m_strValue = "";
     message.Data.AddTail(creation);
-    EXPECT_THAT(
-        MessageLines(message),
-        ElementsAre(
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=1",
-            "[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_ushIdType=7",
-            "[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_strValue=EU 100%d",
-            "[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ushIdType=65535",
-            "[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_strValue="));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=1
+[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_ushIdType=7
+[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_strValue=EU 100%d
+[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ushIdType=65535
+[CKRMCCreateUnitConversionCommandUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_strValue=
+)"});
+}
+
+// A unit record as an item's list holds it.
+CKRMCUnitConversionData Unit(unsigned char id, const char* name) {
+    CKRMCUnitConversionData unit;
+    unit.m_uchUnitId = id;
+    unit.m_strUnitName = name;
+    return unit;
 }
 
 TEST(UnitConversion, UnitsOfAnItemAreLoggedUnderBothIndices) {
@@ -120,17 +53,16 @@ TEST(UnitConversion, UnitsOfAnItemAreLoggedUnderBothIndices) {
     item.m_cUnitList.AddTail(Unit(1, "km/h"));
     item.m_cUnitList.AddTail(Unit(255, "mph"));
     message.Data.AddTail(item);
-    EXPECT_THAT(
-        MessageLines(message),
-        ElementsAre(
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchItemId=4",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strItemName=Vehicle speed",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[0].m_uchUnitId=1",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[0].m_strUnitName=km/h",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[1].m_uchUnitId=255",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[1].m_strUnitName=mph"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=2
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchItemId=4
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strItemName=Vehicle speed
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[0].m_uchUnitId=1
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[0].m_strUnitName=km/h
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[1].m_uchUnitId=255
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cUnitList[1].m_strUnitName=mph
+)"});
 }
 
 TEST(UnitConversion, ASecondItemsUnitsStartAtIndexZero) {
@@ -139,17 +71,23 @@ TEST(UnitConversion, ASecondItemsUnitsStartAtIndexZero) {
     CKRMCUnitConvDataItemInfo item;
     item.m_cUnitList.AddTail(Unit(9, "bar"));
     message.Data.AddTail(item);
-    EXPECT_THAT(
-        MessageLines(message),
-        ElementsAre(
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=2",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchItemId=0",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strItemName=",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchItemId=0",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_strItemName=",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cUnitList[0].m_uchUnitId=9",
-            "[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cUnitList[0].m_strUnitName=bar"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=2
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchItemId=0
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strItemName=
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchItemId=0
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_strItemName=
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cUnitList[0].m_uchUnitId=9
+[CKRMCGetUnitConversionInfoListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cUnitList[0].m_strUnitName=bar
+)"});
+}
+
+CKRMCUnitConversionData Setting(unsigned char item, unsigned char unit) {
+    CKRMCUnitConversionData setting;
+    setting.m_uchItemId = item;
+    setting.m_uchUnitId = unit;
+    return setting;
 }
 
 TEST(UnitConversion, ChoosingUnitsLogsItemAndUnitOnly) {
@@ -161,13 +99,14 @@ TEST(UnitConversion, ChoosingUnitsLogsItemAndUnitOnly) {
     choice.m_uchUnitId = 3;
     message.Data.AddTail(choice);
     message.Data.AddTail(Setting(5, 6));
-    EXPECT_THAT(MessageLines(message),
-                ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=3",
-                            "[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_uchItemId=200",
-                            "[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_uchUnitId=3",
-                            "[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_uchItemId=5",
-                            "[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_uchUnitId=6"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=3
+[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_uchItemId=200
+[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_uchUnitId=3
+[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_uchItemId=5
+[CKRMCSetUnitConversionInfoUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_uchUnitId=6
+)"});
 }
 
 TEST(UnitConversion, ChosenUnitsAreLoggedByGenre) {
@@ -178,12 +117,12 @@ TEST(UnitConversion, ChosenUnitsAreLoggedByGenre) {
     chosen.m_ushGenreId = 40000;
     chosen.m_uchUnitId = 2;
     message.Data.AddTail(chosen);
-    EXPECT_THAT(
-        MessageLines(message),
-        ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                    "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=3",
-                    "[CKRMCSetUnitConversionInfoUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ushGenreId=40000",
-                    "[CKRMCSetUnitConversionInfoUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchUnitId=2"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=3
+[CKRMCSetUnitConversionInfoUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ushGenreId=40000
+[CKRMCSetUnitConversionInfoUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchUnitId=2
+)"});
 }
 
 TEST(UnitConversion, GroupsAreLoggedByNumberAndName) {
@@ -195,15 +134,14 @@ TEST(UnitConversion, GroupsAreLoggedByNumberAndName) {
     group.m_uchGroupId = 2;
     group.m_strGroupName = "Imperial";
     message.Data.AddTail(group);
-    EXPECT_THAT(
-        MessageLines(message),
-        ElementsAre(
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=4",
-            "[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchGroupId=1",
-            "[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strGroupName=Metric",
-            "[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchGroupId=2",
-            "[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_strGroupName=Imperial"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=4
+[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchGroupId=1
+[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strGroupName=Metric
+[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchGroupId=2
+[CKRMCGetUnitSettingGroupListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_strGroupName=Imperial
+)"});
 }
 
 TEST(UnitConversion, GroupsAskedForAreLoggedByNumber) {
@@ -214,12 +152,12 @@ TEST(UnitConversion, GroupsAskedForAreLoggedByNumber) {
     message.Data.AddTail(group);
     group.m_uchGroupId = 9;
     message.Data.AddTail(group);
-    EXPECT_THAT(
-        MessageLines(message),
-        ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                    "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=5",
-                    "[CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_uchGroupId=8",
-                    "[CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_uchGroupId=9"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=5
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd::ErrWriteOperationLog] Data[0].m_uchGroupId=8
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd::ErrWriteOperationLog] Data[1].m_uchGroupId=9
+)"});
 }
 
 TEST(UnitConversion, SettingsOfAGroupAreLoggedUnderBothIndices) {
@@ -231,35 +169,42 @@ TEST(UnitConversion, SettingsOfAGroupAreLoggedUnderBothIndices) {
     group.m_cSettingList.AddTail(Setting(10, 20));
     group.m_cSettingList.AddTail(Setting(11, 21));
     message.Data.AddTail(group);
-    EXPECT_THAT(
-        MessageLines(message),
-        ElementsAre(
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-            "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=5",
-            "[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchGroupId=1",
-            "[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchGroupId=2",
-            "[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[0].m_uchItemId=10",
-            "[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[0].m_uchUnitId=20",
-            "[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[1].m_uchItemId=11",
-            "[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[1].m_uchUnitId=21"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=5
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchGroupId=1
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchGroupId=2
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[0].m_uchItemId=10
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[0].m_uchUnitId=20
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[1].m_uchItemId=11
+[CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cSettingList[1].m_uchUnitId=21
+)"});
 }
 
 TEST(UnitConversion, MessagesWithoutDataLogTypeAndIdOnly) {
     CKRMCCreateUnitConversionCommandUccAdaptDataRcv created;
-    EXPECT_THAT(MessageLines(created), ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                                                   "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=1"));
+    ExpectLog(created, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=1
+)"});
     CKRMCGetUnitConversionInfoListUccAdaptDataSnd items;
-    EXPECT_THAT(MessageLines(items), ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                                                 "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=2"));
+    ExpectLog(items, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=2
+)"});
     CKRMCGetUnitSettingGroupListUccAdaptDataSnd groups;
-    EXPECT_THAT(MessageLines(groups), ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                                                  "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=4"));
+    ExpectLog(groups, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=4
+)"});
 }
 
 TEST(UnitConversion, AnEmptyListLogsNothing) {
     CKRMCSetUnitConversionInfoUccAdaptDataSnd message;
-    EXPECT_THAT(MessageLines(message), ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
-                                                   "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=3"));
+    ExpectLog(message, {R"(
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10
+[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=3
+)"});
 }
 
 TEST(UnitConversion, LoggingSucceedsWhateverTheWriterSays) {

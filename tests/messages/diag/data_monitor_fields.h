@@ -1,4 +1,4 @@
-// The fields of the data monitor records and messages, in order.
+// The fields of the classes of krm/messages/diag/data_monitor.h, in order.
 #ifndef KRM_TESTS_MESSAGES_DIAG_DATA_MONITOR_FIELDS_H_
 #define KRM_TESTS_MESSAGES_DIAG_DATA_MONITOR_FIELDS_H_
 
@@ -6,9 +6,13 @@
 
 #include "krm/messages/diag/data_monitor.h"
 #include "tests/messages/diag/display_fields.h"
-#include "tests/messages/diag/oscilloscope_memory_fields.h"
-#include "tests/messages/diag/trouble_codes_fields.h"
+#include "tests/messages/diag/freeze_frame_item_fields.h"
+#include "tests/messages/diag/oscilloscope_channel_fields.h"
 #include "tests/support/fields.h"
+
+inline auto FieldsOf(CKRMCCommandDiagMessage& it) {
+    return std::tie(it.m_ulMsgLength);
+}
 
 inline auto FieldsOf(CKRMCCommandTriggerData& it) {
     return std::tie(it.m_ushTriggerItemId, it.m_ulNameId, it.m_strName, it.m_ushPidId, it.m_cBeginCondition,

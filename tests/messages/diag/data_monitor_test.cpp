@@ -3,83 +3,25 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <type_traits>
 
 #include "krm/messages/diag/oscilloscope_channel.h"
 #include "tests/messages/diag/data_monitor_fields.h"
-#include "tests/messages/diag/sample_records.h"
-#include "tests/support/class_checks.h"
+#include "tests/messages/diag/expected_lines.h"
+#include "tests/support/fields.h"
 #include "tests/support/log_text.h"
 
 namespace {
 
 using krm::test::Described;
-using krm::test::ExpectCopiedIntoLists;
-using krm::test::ExpectDiagnosticCommand;
-using krm::test::ExpectPlainElements;
-using krm::test::ExpectRecords;
+using krm::test::DisplayLines;
+using krm::test::ExpectLog;
 using krm::test::Fill;
 using krm::test::IsZero;
-using krm::test::kEmptyDisplayLines;
-using krm::test::kSampleDisplayLines;
-using krm::test::Log;
-using krm::test::MessageText;
-using krm::test::RecordText;
 using krm::test::SampleDisplay;
+using krm::test::SampleDisplayLines;
 using krm::test::SampleItem;
 using krm::test::SampleItemLines;
 using krm::test::Seed;
-using krm::test::Under;
-
-CKRMCCommandTriggerData Trigger() {
-    CKRMCCommandTriggerData trigger;
-    trigger.m_ushTriggerItemId = 65535;
-    trigger.m_ulNameId = 4294967295U;
-    trigger.m_strName = "Engine speed";
-    trigger.m_ushPidId = 65534;
-    trigger.m_cBeginCondition = SampleDisplay();
-    trigger.m_uchSlopeCondition = 255;
-    trigger.m_uchSlopeDef = 254;
-    trigger.m_cResolutionData = SampleDisplay();
-    return trigger;
-}
-
-TEST(DataMonitorRecords, ArePlainValues) {
-    ExpectRecords<CKRMCCommandTriggerData>();
-    ExpectPlainElements<CKRMCCommandStartDataMonitorData, CKRMCCommandDataMonitorIdData, CKRMCCommandDmReceiveData>();
-}
-
-TEST(DataMonitorMessages, HaveTheirTypeAndIdAndArePlainValues) {
-    ExpectDiagnosticCommand<CKRMCGetDataMonitorListCmdAdaptDataSnd, CKRMCGetDataMonitorListCmdAdaptDataRcv>(17);
-    ExpectDiagnosticCommand<CKRMCStartDataMonitorCmdAdaptDataSnd, CKRMCStartDataMonitorCmdAdaptDataRcv>(20);
-    ExpectDiagnosticCommand<CKRMCGetDataMonitorValueCmdAdaptDataSnd, CKRMCGetDataMonitorValueCmdAdaptDataRcv>(21);
-    ExpectDiagnosticCommand<CKRMCGetTriggerItemCmdAdaptDataSnd, CKRMCGetTriggerItemCmdAdaptDataRcv>(23);
-    ExpectDiagnosticCommand<CKRMCGetDescriptionCmdAdaptDataSnd, CKRMCGetDescriptionCmdAdaptDataRcv>(25);
-    ExpectDiagnosticCommand<CKRMCGetDataMonitorErrorCmdAdaptDataSnd, CKRMCGetDataMonitorErrorCmdAdaptDataRcv>(39);
-    ExpectDiagnosticCommand<CKRMCGetCurrentDataValueCmdAdaptDataSnd, CKRMCGetCurrentDataValueCmdAdaptDataRcv>(92);
-    ExpectDiagnosticCommand<CKRMCGetHexModeInfoCmdAdaptDataSnd, CKRMCGetHexModeInfoCmdAdaptDataRcv>(101);
-    ExpectDiagnosticCommand<CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd,
-                            CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv>(111);
-    ExpectDiagnosticCommand<CKRMCGetUnitInfoCmdAdaptDataSnd, CKRMCGetUnitInfoCmdAdaptDataRcv>(127);
-}
-
-TEST(DmErrorData, IsCopiedWhole) {
-    static_assert(!std::is_polymorphic_v<CKRMCCommandDmErrorData>);
-    CKRMCCommandDmErrorData fresh;
-    EXPECT_TRUE(IsZero(fresh));
-    Seed seed(39);
-    CKRMCCommandDmErrorData error;
-    Fill(error, seed);
-    const std::string before = Described(error);
-    CKRMCCommandDmErrorData copy(error);
-    EXPECT_EQ(Described(copy), before);
-    CKRMCCommandDmErrorData assigned;
-    assigned = error;
-    EXPECT_EQ(Described(assigned), before);
-    copy.m_cError.a_strMessage = "changed";
-    EXPECT_EQ(Described(error), before);
-    ExpectCopiedIntoLists<CKRMCCommandDmErrorData>();
-}
 
 TEST(DmErrorData, ClearResetsTheNumbersAndKeepsTheErrorObject) {
     Seed seed(40);
@@ -94,35 +36,48 @@ TEST(DmErrorData, ClearResetsTheNumbersAndKeepsTheErrorObject) {
     EXPECT_EQ(Described(error.m_cError), before);
 }
 
+CKRMCCommandTriggerData Trigger() {
+    CKRMCCommandTriggerData trigger;
+    trigger.m_ushTriggerItemId = 65535;
+    trigger.m_ulNameId = 4294967295U;
+    trigger.m_strName = "Engine speed";
+    trigger.m_ushPidId = 65534;
+    trigger.m_cBeginCondition = SampleDisplay();
+    trigger.m_uchSlopeCondition = 255;
+    trigger.m_uchSlopeDef = 254;
+    trigger.m_cResolutionData = SampleDisplay();
+    return trigger;
+}
+
 TEST(TriggerData, WritesConditionsAndSlopes) {
     CKRMCCommandTriggerData trigger = Trigger();
-    EXPECT_EQ(RecordText(trigger), Log({
-                                       R"(
+    ExpectLog(trigger, {
+                           R"(
 P.m_ushTriggerItemId=65535
 P.m_ulNameId=-1
 P.m_strName=Engine speed
 P.m_ushPidId=65534
 )",
-                                       Under("P.m_cBeginCondition", kSampleDisplayLines),
-                                       R"(
+                           SampleDisplayLines("P.m_cBeginCondition"),
+                           R"(
 P.m_uchSlopeCondition=255
 )",
-                                       Under("P.m_cTriggerCondition", kEmptyDisplayLines),
-                                       R"(
+                           DisplayLines("P.m_cTriggerCondition", 0),
+                           R"(
 P.m_uchSlopeDef=254
 )",
-                                       Under("P.m_cResolutionData", kSampleDisplayLines),
-                                   }));
+                           SampleDisplayLines("P.m_cResolutionData"),
+                       });
 }
 
 TEST(GetDataMonitorList, RequestWritesTheBaseLinesOnly) {
     CKRMCGetDataMonitorListCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=17
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorList, AnswerWritesTheNumberOfSupportBytesAndNoByte) {
@@ -130,31 +85,30 @@ TEST(GetDataMonitorList, AnswerWritesTheNumberOfSupportBytesAndNoByte) {
     answer.m_uchA8SupportData.AddTail(0xAA);
     answer.m_uchA8SupportData.AddTail(0xBB);
     answer.m_uchA8SupportData.AddTail(0xCC);
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=17
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog] m_uchA8SupportData:ByteNum=3
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorList, AnswerWritesEachItem) {
     CKRMCGetDataMonitorListCmdAdaptDataRcv answer;
     answer.Data.AddTail(SampleItem());
     answer.Data.AddTail(SampleItem());
-    EXPECT_EQ(MessageText(answer),
-              Log({
-                  R"(
+    ExpectLog(answer, {
+                          R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=17
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 )",
-                  Under("[CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog] Data[0]", SampleItemLines()),
-                  Under("[CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog] Data[1]", SampleItemLines()),
-                  R"(
+                          SampleItemLines("[CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog] Data[0]"),
+                          SampleItemLines("[CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog] Data[1]"),
+                          R"(
 [CKRMCGetDataMonitorListCmdAdaptDataRcv::ErrWriteOperationLog] m_uchA8SupportData:ByteNum=0
 )",
-              }));
+                      });
 }
 
 TEST(StartDataMonitor, RequestWritesMonitorsAndThenChannelsUnderTheSameName) {
@@ -180,7 +134,7 @@ TEST(StartDataMonitor, RequestWritesMonitorsAndThenChannelsUnderTheSameName) {
     request.m_cOscInfoList.AddTail(channel);
     request.m_cOscInfoList.AddTail(CKRMCCommandOscInfo());
     request.m_ushOscTimeId = 65532;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=20
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=1
@@ -195,17 +149,17 @@ TEST(StartDataMonitor, RequestWritesMonitorsAndThenChannelsUnderTheSameName) {
 [CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ushChId=0
 [CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ulVolId=0
 [CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog] m_ushOscTimeId=65532
-)"}));
+)"});
 }
 
 TEST(StartDataMonitor, RequestWithEmptyListsWritesTheTimeBase) {
     CKRMCStartDataMonitorCmdAdaptDataSnd request;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=20
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=0
 [CKRMCStartDataMonitorCmdAdaptDataSnd::ErrWriteOperationLog] m_ushOscTimeId=0
-)"}));
+)"});
 }
 
 TEST(StartDataMonitor, AnswerWritesEachMonitorStarted) {
@@ -216,7 +170,7 @@ TEST(StartDataMonitor, AnswerWritesEachMonitorStarted) {
     answer.m_bDataMonitorEnable = true;
     answer.Data.AddTail(monitor);
     answer.Data.AddTail(CKRMCCommandDataMonitorIdData());
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=20
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -225,19 +179,19 @@ TEST(StartDataMonitor, AnswerWritesEachMonitorStarted) {
 [CKRMCStartDataMonitorCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulEcuId=-1
 [CKRMCStartDataMonitorCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ushDataMonitorId=0
 [CKRMCStartDataMonitorCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulEcuId=0
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorValue, RequestWritesTheMonitor) {
     CKRMCGetDataMonitorValueCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
     request.m_ushDataMonitorId = 65535;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=21
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCGetDataMonitorValueCmdAdaptDataSnd::ErrWriteOperationLog] m_ushDataMonitorId=65535
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorValue, AnswerWritesTheBaseLinesOnlyWhateverItHolds) {
@@ -245,21 +199,21 @@ TEST(GetDataMonitorValue, AnswerWritesTheBaseLinesOnlyWhateverItHolds) {
     answer.m_bNotSupport = true;
     answer.Data.AddTail(SampleItem());
     answer.m_ushValueReserved = 4;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=21
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=1
-)"}));
+)"});
 }
 
 TEST(GetTriggerItem, RequestWritesTheBaseLinesOnly) {
     CKRMCGetTriggerItemCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=23
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetTriggerItem, AnswerWritesEachTrigger) {
@@ -267,9 +221,9 @@ TEST(GetTriggerItem, AnswerWritesEachTrigger) {
     answer.m_cTriggerList.AddTail(Trigger());
     answer.m_cTriggerList.AddTail(Trigger());
     answer.m_cTriggerList[1].m_cTriggerCondition = SampleDisplay();
-    EXPECT_EQ(
-        MessageText(answer),
-        Log({
+    ExpectLog(
+        answer,
+        {
             R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=23
@@ -279,68 +233,68 @@ TEST(GetTriggerItem, AnswerWritesEachTrigger) {
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_strName=Engine speed
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_ushPidId=65534
 )",
-            Under("[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_cBeginCondition",
-                  kSampleDisplayLines),
+            SampleDisplayLines(
+                "[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_cBeginCondition"),
             R"(
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_uchSlopeCondition=255
 )",
-            Under("[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_cTriggerCondition",
-                  kEmptyDisplayLines),
+            DisplayLines(
+                "[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_cTriggerCondition", 0),
             R"(
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_uchSlopeDef=254
 )",
-            Under("[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_cResolutionData",
-                  kSampleDisplayLines),
+            SampleDisplayLines(
+                "[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[0].m_cResolutionData"),
             R"(
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_ushTriggerItemId=65535
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_ulNameId=-1
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_strName=Engine speed
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_ushPidId=65534
 )",
-            Under("[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_cBeginCondition",
-                  kSampleDisplayLines),
+            SampleDisplayLines(
+                "[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_cBeginCondition"),
             R"(
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_uchSlopeCondition=255
 )",
-            Under("[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_cTriggerCondition",
-                  kSampleDisplayLines),
+            SampleDisplayLines(
+                "[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_cTriggerCondition"),
             R"(
 [CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_uchSlopeDef=254
 )",
-            Under("[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_cResolutionData",
-                  kSampleDisplayLines),
-        }));
+            SampleDisplayLines(
+                "[CKRMCGetTriggerItemCmdAdaptDataRcv::ErrWriteOperationLog] m_cTriggerList[1].m_cResolutionData"),
+        });
 }
 
 TEST(GetDescription, RequestWritesTheBaseLinesOnly) {
     CKRMCGetDescriptionCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=25
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetDescription, AnswerWritesTheText) {
     CKRMCGetDescriptionCmdAdaptDataRcv answer;
     answer.m_strDescription = "Lights 100 %s";
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=25
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetDescriptionCmdAdaptDataRcv::ErrWriteOperationLog] m_strDescription=Lights 100 %s
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorError, RequestWritesTheBaseLinesOnly) {
     CKRMCGetDataMonitorErrorCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=39
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorError, AnswerWritesEachErrorWithItsDetails) {
@@ -353,7 +307,7 @@ TEST(GetDataMonitorError, AnswerWritesEachErrorWithItsDetails) {
     answer.Data.AddTail(error);
     answer.Data.AddTail(CKRMCCommandDmErrorData());
     answer.Data[1].m_cError.SetErrorCode(4294967295U);
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=39
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -375,7 +329,7 @@ TEST(GetDataMonitorError, AnswerWritesEachErrorWithItsDetails) {
 [CKRMCGetDataMonitorErrorCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].a_strMessage=
 [CKRMCGetDataMonitorErrorCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulHelpId1=0
 [CKRMCGetDataMonitorErrorCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulHelpId2=0
-)"}));
+)"});
 }
 
 TEST(GetCurrentDataValue, RequestWritesEachPid) {
@@ -383,60 +337,59 @@ TEST(GetCurrentDataValue, RequestWritesEachPid) {
     request.m_ulEcuId = 2016;
     request.m_cPidIdList.AddTail(12);
     request.m_cPidIdList.AddTail(65535);
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=92
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCGetCurrentDataValueCmdAdaptDataSnd::ErrWriteOperationLog] m_cPidIdList[0]=12
 [CKRMCGetCurrentDataValueCmdAdaptDataSnd::ErrWriteOperationLog] m_cPidIdList[1]=65535
-)"}));
+)"});
 }
 
 TEST(GetCurrentDataValue, AnswerWritesEachItem) {
     CKRMCGetCurrentDataValueCmdAdaptDataRcv answer;
     answer.Data.AddTail(SampleItem());
     answer.Data.AddTail(SampleItem());
-    EXPECT_EQ(MessageText(answer),
-              Log({
-                  R"(
+    ExpectLog(answer, {
+                          R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=92
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 )",
-                  Under("[CKRMCGetCurrentDataValueCmdAdaptDataRcv::ErrWriteOperationLog] Data[0]", SampleItemLines()),
-                  Under("[CKRMCGetCurrentDataValueCmdAdaptDataRcv::ErrWriteOperationLog] Data[1]", SampleItemLines()),
-              }));
+                          SampleItemLines("[CKRMCGetCurrentDataValueCmdAdaptDataRcv::ErrWriteOperationLog] Data[0]"),
+                          SampleItemLines("[CKRMCGetCurrentDataValueCmdAdaptDataRcv::ErrWriteOperationLog] Data[1]"),
+                      });
 }
 
 TEST(GetHexModeInfo, RequestWritesTheBaseLinesOnly) {
     CKRMCGetHexModeInfoCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=101
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetHexModeInfo, AnswerWritesTheWidthUnsigned) {
     CKRMCGetHexModeInfoCmdAdaptDataRcv answer;
     answer.m_ulAddressByte = 4294967295U;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=101
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetHexModeInfoCmdAdaptDataRcv::ErrWriteOperationLog] m_ulAddressByte=4294967295
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorReceiveInfo, RequestWritesTheBaseLinesOnly) {
     CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=111
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetDataMonitorReceiveInfo, AnswerWritesEachValueInHexadecimal) {
@@ -447,7 +400,7 @@ TEST(GetDataMonitorReceiveInfo, AnswerWritesEachValueInHexadecimal) {
     CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv answer;
     answer.m_cDmReceiveDataList.AddTail(received);
     answer.m_cDmReceiveDataList.AddTail(CKRMCCommandDmReceiveData());
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=111
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -457,17 +410,17 @@ TEST(GetDataMonitorReceiveInfo, AnswerWritesEachValueInHexadecimal) {
 [CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv::ErrWriteOperationLog] m_cDmReceiveDataList[1].m_ushMessageType=0
 [CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv::ErrWriteOperationLog] m_cDmReceiveDataList[1].m_ulRidRecvValue=0x00000000
 [CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv::ErrWriteOperationLog] m_cDmReceiveDataList[1].m_ushRidId=0
-)"}));
+)"});
 }
 
 TEST(GetUnitInfo, RequestWritesTheBaseLinesOnly) {
     CKRMCGetUnitInfoCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=127
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetUnitInfo, AnswerWritesEachMessageLength) {
@@ -476,13 +429,19 @@ TEST(GetUnitInfo, AnswerWritesEachMessageLength) {
     CKRMCGetUnitInfoCmdAdaptDataRcv answer;
     answer.Data.AddTail(message);
     answer.Data.AddTail(CKRMCCommandDiagMessage());
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=127
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetUnitInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulMsgLength=-1
 [CKRMCGetUnitInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulMsgLength=0
-)"}));
+)"});
+}
+
+TEST(DiagMessage, WritesItsLength) {
+    CKRMCCommandDiagMessage message;
+    message.m_ulMsgLength = 4095;
+    ExpectLog(message, {"P.m_ulMsgLength=4095\n"});
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The fields of the display and conversion records, in order.
+// The fields of the classes of krm/messages/diag/display.h, in order.
 #ifndef KRM_TESTS_MESSAGES_DIAG_DISPLAY_FIELDS_H_
 #define KRM_TESTS_MESSAGES_DIAG_DISPLAY_FIELDS_H_
 

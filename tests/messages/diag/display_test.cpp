@@ -3,30 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "tests/messages/diag/display_fields.h"
+#include "tests/support/fields.h"
 #include "tests/support/log_text.h"
-#include "tests/support/value_checks.h"
 
 namespace {
 
-using krm::test::ExpectCopiedIntoLists;
-using krm::test::ExpectPlainValue;
+using krm::test::ExpectLog;
 using krm::test::IsZero;
-using krm::test::Log;
-using krm::test::RecordText;
-
-template <class Record>
-class DisplayRecord : public testing::Test {};
-using DisplayRecords = testing::Types<CKRMCCommandDataLayout, CKRMCCommandDispData, CKRMCCommandDispVariableData,
-                                      CKRMCCommandConversionData>;
-TYPED_TEST_SUITE(DisplayRecord, DisplayRecords);
-
-TYPED_TEST(DisplayRecord, IsAPlainValue) {
-    ExpectPlainValue<TypeParam>();
-}
-
-TYPED_TEST(DisplayRecord, IsCopiedIntoLists) {
-    ExpectCopiedIntoLists<TypeParam>();
-}
 
 TEST(DataLayout, WritesItsFieldsInOrder) {
     CKRMCCommandDataLayout layout;
@@ -36,28 +19,28 @@ TEST(DataLayout, WritesItsFieldsInOrder) {
     layout.m_ulByteNum = 2;
     layout.m_ulBytePos = 3;
     layout.m_ulBitMask = 0xFFFFFFFF;
-    EXPECT_EQ(RecordText(layout), Log({R"(
+    ExpectLog(layout, {R"(
 P.m_ulPidNo=0xF40D
 P.m_ulDataLen=4294967295
 P.m_uchEndian=255
 P.m_ulByteNum=2
 P.m_ulBytePos=3
 P.m_ulBitMask=0xFFFFFFFF
-)"}));
+)"});
 }
 
 TEST(DataLayout, WritesTheMaskWithEightDigitsAndThePidWithoutLeadingZeros) {
     CKRMCCommandDataLayout layout;
     layout.m_ulPidNo = 0x1A;
     layout.m_ulBitMask = 0xFF00;
-    EXPECT_EQ(RecordText(layout), Log({R"(
+    ExpectLog(layout, {R"(
 P.m_ulPidNo=0x1A
 P.m_ulDataLen=0
 P.m_uchEndian=0
 P.m_ulByteNum=0
 P.m_ulBytePos=0
 P.m_ulBitMask=0x0000FF00
-)"}));
+)"});
 }
 
 TEST(DispData, WritesItsFieldsInOrderWithoutTheReservedOne) {
@@ -72,7 +55,7 @@ TEST(DispData, WritesItsFieldsInOrderWithoutTheReservedOne) {
     value.m_chIndex = -128;
     value.m_lIndex = -2147483647;
     value.m_ulDispDataType = 10;
-    EXPECT_EQ(RecordText(value), Log({R"(
+    ExpectLog(value, {R"(
 P.m_ulDataStringId=11
 P.m_strDataPhys=12.5
 P.m_strData=54.5 %d %s
@@ -82,7 +65,7 @@ P.m_ulRawData=-1
 P.m_chIndex=-128
 P.m_lIndex=-2147483647
 P.m_ulDispDataType=10
-)"}));
+)"});
 }
 
 TEST(DispVariableData, WritesItsFieldsInOrderWithoutTheReservedOne) {
@@ -98,7 +81,7 @@ TEST(DispVariableData, WritesItsFieldsInOrderWithoutTheReservedOne) {
     value.m_ulDispReserved = 27;
     value.m_chIndex = 127;
     value.m_ulDispDataType = 29;
-    EXPECT_EQ(RecordText(value), Log({R"(
+    ExpectLog(value, {R"(
 P.m_ulDataStringId=21
 P.m_strDataPhys=phys
 P.m_strData=converted
@@ -109,14 +92,14 @@ P.m_dData=1000000000000000.000000
 [P].m_uchRawDataList[2]=80
 P.m_chIndex=127
 P.m_ulDispDataType=29
-)"}));
+)"});
 }
 
 TEST(DispVariableData, WritesRawBytesAsTwoHexadecimalDigits) {
     CKRMCCommandDispVariableData value;
     value.m_uchRawDataList.AddTail(0x0A);
     value.m_uchRawDataList.AddTail(0xFF);
-    EXPECT_EQ(RecordText(value), Log({R"(
+    ExpectLog(value, {R"(
 P.m_ulDataStringId=0
 P.m_strDataPhys=
 P.m_strData=
@@ -126,7 +109,7 @@ P.m_dData=0.000000
 [P].m_uchRawDataList[1]=FF
 P.m_chIndex=0
 P.m_ulDispDataType=0
-)"}));
+)"});
 }
 
 TEST(ConversionData, IsNewWithoutScalingBoundsAndPatterns) {
@@ -168,7 +151,7 @@ TEST(ConversionData, WritesItsFieldsInOrderWithoutTheReservedOne) {
     pattern.m_ulRawData = 1;
     pattern.m_strDataPhys = "on";
     conversion.m_cPatternDispList.AddTail(pattern);
-    EXPECT_EQ(RecordText(conversion), Log({R"(
+    ExpectLog(conversion, {R"(
 P.m_lMul=-3
 P.m_lDiv=100
 P.m_lOffset=-2147483647
@@ -230,7 +213,7 @@ P.m_cPatternDispList[1].m_ulRawData=1
 P.m_cPatternDispList[1].m_chIndex=0
 P.m_cPatternDispList[1].m_lIndex=0
 P.m_cPatternDispList[1].m_ulDispDataType=0
-)"}));
+)"});
 }
 
 }  // namespace

@@ -1,12 +1,12 @@
-// The fields of the vehicle, ECU and session records and messages, in order.
+// The fields of the classes of krm/messages/diag/vehicle.h, in order.
 #ifndef KRM_TESTS_MESSAGES_DIAG_VEHICLE_FIELDS_H_
 #define KRM_TESTS_MESSAGES_DIAG_VEHICLE_FIELDS_H_
 
 #include <tuple>
 
-#include "krm/messages/diag/j2534_config.h"
 #include "krm/messages/diag/vehicle.h"
-#include "tests/messages/diag/trouble_codes_fields.h"
+#include "tests/messages/diag/freeze_frame_item_fields.h"
+#include "tests/messages/diag/j2534_config_fields.h"
 #include "tests/messages/diag/words_fields.h"
 #include "tests/support/fields.h"
 
@@ -63,10 +63,6 @@ inline auto FieldsOf(CKRMCCommandVehicleInfoSelectData& it) {
 
 inline auto FieldsOf(CKRMCCommandVehicleSystemInfo& it) {
     return std::tie(it.m_ulInfoId, it.m_cInfoData);
-}
-
-inline auto FieldsOf(CKRMCCommandJ2534Config& it) {
-    return std::tie(it.m_ulParameter, it.m_ulValue);
 }
 
 inline auto FieldsOf(CKRMCWrapperCreationData& it) {

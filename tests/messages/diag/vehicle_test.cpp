@@ -5,29 +5,14 @@
 #include <type_traits>
 
 #include "krm/messages/diag/j2534_config.h"
-#include "tests/messages/diag/sample_records.h"
-#include "tests/messages/diag/vehicle_fields.h"
-#include "tests/support/class_checks.h"
+#include "tests/messages/diag/expected_lines.h"
 #include "tests/support/log_text.h"
 
 namespace {
 
-using krm::test::ExpectDiagnosticCommand;
-using krm::test::ExpectPlainElements;
-using krm::test::ExpectRecords;
-using krm::test::Log;
-using krm::test::MessageText;
-using krm::test::RecordText;
+using krm::test::ExpectLog;
 using krm::test::SampleItem;
 using krm::test::SampleItemLines;
-using krm::test::Under;
-
-CKRMCCommandCarTypeCategoryIdData Choice(unsigned short category, unsigned short contents) {
-    CKRMCCommandCarTypeCategoryIdData choice;
-    choice.m_ushCarTypeCategoryId = category;
-    choice.m_ushCarTypeCategoryContentsId = contents;
-    return choice;
-}
 
 CKRMCCommandCarTypeCategoryData Category() {
     CKRMCCommandCarTypeCategoryContentsData contents;
@@ -42,6 +27,21 @@ CKRMCCommandCarTypeCategoryData Category() {
     return category;
 }
 
+TEST(CarTypeCategoryData, WritesEachChoice) {
+    CKRMCCommandCarTypeCategoryData category = Category();
+    ExpectLog(category, {R"(
+P.m_ushCarTypeCategoryId=7
+P.m_cCarTypeOptionContentsList[0].m_ushSortIndex=3
+P.m_cCarTypeOptionContentsList[0].m_ushCarTypeCategoryContentsId=65535
+P.m_cCarTypeOptionContentsList[0].m_ulCarTypeCategoryContentsNameId=-1
+P.m_cCarTypeOptionContentsList[0].m_strCarTypeCategoryContentsName=Saloon
+P.m_cCarTypeOptionContentsList[1].m_ushSortIndex=0
+P.m_cCarTypeOptionContentsList[1].m_ushCarTypeCategoryContentsId=0
+P.m_cCarTypeOptionContentsList[1].m_ulCarTypeCategoryContentsNameId=0
+P.m_cCarTypeOptionContentsList[1].m_strCarTypeCategoryContentsName=
+)"});
+}
+
 CKRMCCommandCarTypeOptionData Option() {
     CKRMCCommandCarTypeOptionContentsData contents;
     contents.m_ushCarTypeOptionContentsId = 65535;
@@ -52,6 +52,48 @@ CKRMCCommandCarTypeOptionData Option() {
     option.Data.AddTail(contents);
     option.Data.AddTail(CKRMCCommandCarTypeOptionContentsData());
     return option;
+}
+
+TEST(CarTypeOptionData, WritesEachChoice) {
+    CKRMCCommandCarTypeOptionData option = Option();
+    ExpectLog(option, {R"(
+P.m_ushCarTypeOptionIndex=2
+P.Data[0].m_ushCarTypeOptionContentsId=65535
+P.Data[0].m_ulCarTypeOptionContentsNameId=-2147483648
+P.Data[0].m_strCarTypeOptionContentsName=With 100 % towing
+P.Data[1].m_ushCarTypeOptionContentsId=0
+P.Data[1].m_ulCarTypeOptionContentsNameId=0
+P.Data[1].m_strCarTypeOptionContentsName=
+)"});
+}
+
+CKRMCCommandVariantData Variant(krm_ulong type, krm_ulong value, const char* words) {
+    CKRMCCommandVariantData variant;
+    variant.m_ulVarType = type;
+    variant.m_ulValue = value;
+    variant.m_cString.m_ulWordsId = 31;
+    variant.m_cString.m_strWords = words;
+    return variant;
+}
+
+TEST(VariantData, WritesTypeNumberAndWords) {
+    CKRMCCommandVariantData variant = Variant(0xAB, 12, "on");
+    ExpectLog(variant, {R"(
+P.m_ulVarType=0xAB
+P.m_ulValue=12(12)
+P.m_cString.m_ulWordsId=31
+P.m_cString.m_strWords=on
+)"});
+}
+
+TEST(VariantData, WritesANumberOfAllBitsSignedAndUnsigned) {
+    CKRMCCommandVariantData variant = Variant(4294967295U, 4294967295U, "");
+    ExpectLog(variant, {R"(
+P.m_ulVarType=0xFFFFFFFF
+P.m_ulValue=-1(4294967295)
+P.m_cString.m_ulWordsId=31
+P.m_cString.m_strWords=
+)"});
 }
 
 CKRMCCommandEcuData Ecu(krm_ulong id, const char* name) {
@@ -66,100 +108,6 @@ CKRMCCommandEcuData Ecu(krm_ulong id, const char* name) {
     return ecu;
 }
 
-CKRMCCommandVehicleInfoData Info(unsigned short id, krm_ulong value, const char* text) {
-    CKRMCCommandVehicleInfoData info;
-    info.m_ushVehicleInfoId = id;
-    info.m_ulVehicleInfo = value;
-    info.m_strVehicleInfo = text;
-    return info;
-}
-
-CKRMCCommandVariantData Variant(krm_ulong type, krm_ulong value, const char* words) {
-    CKRMCCommandVariantData variant;
-    variant.m_ulVarType = type;
-    variant.m_ulValue = value;
-    variant.m_cString.m_ulWordsId = 31;
-    variant.m_cString.m_strWords = words;
-    return variant;
-}
-
-TEST(VehicleRecords, ArePlainValues) {
-    ExpectRecords<CKRMCCommandCarTypeCategoryContentsData, CKRMCCommandCarTypeCategoryData,
-                  CKRMCCommandCarTypeOptionContentsData, CKRMCCommandCarTypeOptionData, CKRMCCommandVariantData,
-                  CKRMCCommandEcuData, CKRMCCommandEcuGroupData, CKRMCCommandVehicleInfoItem,
-                  CKRMCCommandVehicleInfoData, CKRMCCommandVehicleInfoSelectData, CKRMCCommandVehicleSystemInfo>();
-    ExpectPlainElements<CKRMCCommandCarTypeCategoryIdData, CKRMCCommandEcuFunctionData, CKRMCCommandJ2534Config,
-                        CKRMCWrapperCreationData>();
-}
-
-TEST(VehicleMessages, HaveTheirTypeAndIdAndArePlainValues) {
-    ExpectDiagnosticCommand<CKRMCVehicleDecisionCmdAdaptDataSnd, CKRMCVehicleDecisionCmdAdaptDataRcv>(10);
-    ExpectDiagnosticCommand<CKRMCGetGroupEcuListCmdAdaptDataSnd, CKRMCGetGroupEcuListCmdAdaptDataRcv>(12);
-    ExpectDiagnosticCommand<CKRMCGetEcuFunctionListCmdAdaptDataSnd, CKRMCGetEcuFunctionListCmdAdaptDataRcv>(13);
-    ExpectDiagnosticCommand<CKRMCEcuConnectCmdAdaptDataSnd, CKRMCEcuConnectCmdAdaptDataRcv>(14);
-    ExpectDiagnosticCommand<CKRMCCreateCommCtrlMainCmdAdaptDataSnd, CKRMCCreateCommCtrlMainCmdAdaptDataRcv>(24);
-    ExpectDiagnosticCommand<CKRMCGetJ2534ConfigParamCmdAdaptDataSnd, CKRMCGetJ2534ConfigParamCmdAdaptDataRcv>(27);
-    ExpectDiagnosticCommand<CKRMCInitMountEcuListCmdAdaptDataSnd, CKRMCInitMountEcuListCmdAdaptDataRcv>(40);
-    ExpectDiagnosticCommand<CKRMCReadVBattCmdAdaptDataSnd, CKRMCReadVBattCmdAdaptDataRcv>(43);
-    ExpectDiagnosticCommand<CKRMCSelectCarIdCmdAdaptDataSnd, CKRMCSelectCarIdCmdAdaptDataRcv>(46);
-    ExpectDiagnosticCommand<CKRMCGetDiagSessionCmdAdaptDataSnd, CKRMCGetDiagSessionCmdAdaptDataRcv>(47);
-    ExpectDiagnosticCommand<CKRMCSetDiagSessionCmdAdaptDataSnd, CKRMCSetDiagSessionCmdAdaptDataRcv>(48);
-    ExpectDiagnosticCommand<CKRMCGetVehicleInfoCmdAdaptDataSnd, CKRMCGetVehicleInfoCmdAdaptDataRcv>(77);
-    ExpectDiagnosticCommand<CKRMCGetAllDtcSystemListCmdAdaptDataSnd, CKRMCGetAllDtcSystemListCmdAdaptDataRcv>(78);
-    ExpectDiagnosticCommand<CKRMCGetVinCodeCmdAdaptDataSnd, CKRMCGetVinCodeCmdAdaptDataRcv>(79);
-    ExpectDiagnosticCommand<CKRMCGetCarCategoryVinCmdAdaptDataSnd, CKRMCGetCarCategoryVinCmdAdaptDataRcv>(80);
-    ExpectDiagnosticCommand<CKRMCGetVehicleSystemInfoCmdAdaptDataSnd, CKRMCGetVehicleSystemInfoCmdAdaptDataRcv>(84);
-    ExpectDiagnosticCommand<CKRMCSelectVehicleInfoCmdAdaptDataSnd, CKRMCSelectVehicleInfoCmdAdaptDataRcv>(107);
-}
-
-TEST(CarTypeCategoryData, WritesEachChoice) {
-    CKRMCCommandCarTypeCategoryData category = Category();
-    EXPECT_EQ(RecordText(category), Log({R"(
-P.m_ushCarTypeCategoryId=7
-P.m_cCarTypeOptionContentsList[0].m_ushSortIndex=3
-P.m_cCarTypeOptionContentsList[0].m_ushCarTypeCategoryContentsId=65535
-P.m_cCarTypeOptionContentsList[0].m_ulCarTypeCategoryContentsNameId=-1
-P.m_cCarTypeOptionContentsList[0].m_strCarTypeCategoryContentsName=Saloon
-P.m_cCarTypeOptionContentsList[1].m_ushSortIndex=0
-P.m_cCarTypeOptionContentsList[1].m_ushCarTypeCategoryContentsId=0
-P.m_cCarTypeOptionContentsList[1].m_ulCarTypeCategoryContentsNameId=0
-P.m_cCarTypeOptionContentsList[1].m_strCarTypeCategoryContentsName=
-)"}));
-}
-
-TEST(CarTypeOptionData, WritesEachChoice) {
-    CKRMCCommandCarTypeOptionData option = Option();
-    EXPECT_EQ(RecordText(option), Log({R"(
-P.m_ushCarTypeOptionIndex=2
-P.Data[0].m_ushCarTypeOptionContentsId=65535
-P.Data[0].m_ulCarTypeOptionContentsNameId=-2147483648
-P.Data[0].m_strCarTypeOptionContentsName=With 100 % towing
-P.Data[1].m_ushCarTypeOptionContentsId=0
-P.Data[1].m_ulCarTypeOptionContentsNameId=0
-P.Data[1].m_strCarTypeOptionContentsName=
-)"}));
-}
-
-TEST(VariantData, WritesTypeNumberAndWords) {
-    CKRMCCommandVariantData variant = Variant(0xAB, 12, "on");
-    EXPECT_EQ(RecordText(variant), Log({R"(
-P.m_ulVarType=0xAB
-P.m_ulValue=12(12)
-P.m_cString.m_ulWordsId=31
-P.m_cString.m_strWords=on
-)"}));
-}
-
-TEST(VariantData, WritesANumberOfAllBitsSignedAndUnsigned) {
-    CKRMCCommandVariantData variant = Variant(4294967295U, 4294967295U, "");
-    EXPECT_EQ(RecordText(variant), Log({R"(
-P.m_ulVarType=0xFFFFFFFF
-P.m_ulValue=-1(4294967295)
-P.m_cString.m_ulWordsId=31
-P.m_cString.m_strWords=
-)"}));
-}
-
 TEST(EcuGroupData, WritesEachEcu) {
     CKRMCCommandEcuGroupData group;
     group.m_ushGroupId = 65535;
@@ -167,7 +115,7 @@ TEST(EcuGroupData, WritesEachEcu) {
     group.m_strGroupName = "Power train";
     group.m_cEcuList.AddTail(Ecu(2016, "Engine"));
     group.m_cEcuList.AddTail(Ecu(2147483648U, ""));
-    EXPECT_EQ(RecordText(group), Log({R"(
+    ExpectLog(group, {R"(
 P.m_ushGroupId=65535
 P.m_ulGroupNameId=-1
 P.m_strGroupName=Power train
@@ -185,7 +133,7 @@ P.m_cEcuList[1].m_uchPhaseType=255
 P.m_cEcuList[1].m_ulEcuNameId=-1
 P.m_cEcuList[1].m_strEcuName=
 P.m_cEcuList[1].m_strEcuShortName=ECM
-)"}));
+)"});
 }
 
 TEST(EcuFunctionData, IsCopiedAndDestroyedLikeAnyValueAndHasNoLogLines) {
@@ -211,15 +159,23 @@ TEST(VehicleInfoItem, WritesItsValuesAsFreezeFrameItems) {
     item.m_uchDispType = 255;
     item.m_cVehicleInfoList.AddTail(SampleItem());
     item.m_cVehicleInfoList.AddTail(SampleItem());
-    EXPECT_EQ(RecordText(item), Log({
-                                    R"(
+    ExpectLog(item, {
+                        R"(
 P.m_ulNameId=-1
 P.m_strName=Odometer
 P.m_uchDispType=255
 )",
-                                    Under("P.m_cVehicleInfoList[0]", SampleItemLines()),
-                                    Under("P.m_cVehicleInfoList[1]", SampleItemLines()),
-                                }));
+                        SampleItemLines("P.m_cVehicleInfoList[0]"),
+                        SampleItemLines("P.m_cVehicleInfoList[1]"),
+                    });
+}
+
+CKRMCCommandVehicleInfoData Info(unsigned short id, krm_ulong value, const char* text) {
+    CKRMCCommandVehicleInfoData info;
+    info.m_ushVehicleInfoId = id;
+    info.m_ulVehicleInfo = value;
+    info.m_strVehicleInfo = text;
+    return info;
 }
 
 TEST(VehicleInfoSelectData, WritesNumbersUnsigned) {
@@ -227,7 +183,7 @@ TEST(VehicleInfoSelectData, WritesNumbersUnsigned) {
     select.m_ushVehicleInfoId = 65535;
     select.m_cVehicleInfoContentsList.AddTail(Info(65534, 4294967295U, "2021"));
     select.m_cVehicleInfoContentsList.AddTail(Info(0, 0, ""));
-    EXPECT_EQ(RecordText(select), Log({R"(
+    ExpectLog(select, {R"(
 P.m_ushVehicleInfoId=65535
 P.m_cVehicleInfoContentsList[0].m_ushVehicleInfoId=65534
 P.m_cVehicleInfoContentsList[0].m_ulVehicleInfo=4294967295
@@ -235,7 +191,7 @@ P.m_cVehicleInfoContentsList[0].m_strVehicleInfo=2021
 P.m_cVehicleInfoContentsList[1].m_ushVehicleInfoId=0
 P.m_cVehicleInfoContentsList[1].m_ulVehicleInfo=0
 P.m_cVehicleInfoContentsList[1].m_strVehicleInfo=
-)"}));
+)"});
 }
 
 TEST(VehicleSystemInfo, WritesEachValue) {
@@ -243,7 +199,7 @@ TEST(VehicleSystemInfo, WritesEachValue) {
     info.m_ulInfoId = 4294967295U;
     info.m_cInfoData.AddTail(Variant(1, 2, "a"));
     info.m_cInfoData.AddTail(Variant(16, 2147483648U, "b"));
-    EXPECT_EQ(RecordText(info), Log({R"(
+    ExpectLog(info, {R"(
 P.m_ulInfoId=4294967295
 P.m_cInfoData[0].m_ulVarType=0x1
 P.m_cInfoData[0].m_ulValue=2(2)
@@ -253,7 +209,14 @@ P.m_cInfoData[1].m_ulVarType=0x10
 P.m_cInfoData[1].m_ulValue=-2147483648(2147483648)
 P.m_cInfoData[1].m_cString.m_ulWordsId=31
 P.m_cInfoData[1].m_cString.m_strWords=b
-)"}));
+)"});
+}
+
+CKRMCCommandCarTypeCategoryIdData Choice(unsigned short category, unsigned short contents) {
+    CKRMCCommandCarTypeCategoryIdData choice;
+    choice.m_ushCarTypeCategoryId = category;
+    choice.m_ushCarTypeCategoryContentsId = contents;
+    return choice;
 }
 
 TEST(VehicleDecision, RequestWritesTheChoicesMade) {
@@ -264,7 +227,7 @@ TEST(VehicleDecision, RequestWritesTheChoicesMade) {
     request.Data.AddTail(Choice(65535, 65534));
     request.m_ushCarTypeOptionIndex = 3;
     request.m_ushCarTypeOptionContentsId = 65533;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=10
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
@@ -275,7 +238,7 @@ TEST(VehicleDecision, RequestWritesTheChoicesMade) {
 [CKRMCVehicleDecisionCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ushCarTypeCategoryContentsId=65534
 [CKRMCVehicleDecisionCmdAdaptDataSnd::ErrWriteOperationLog] m_ushCarTypeOptionIndex=3
 [CKRMCVehicleDecisionCmdAdaptDataSnd::ErrWriteOperationLog] m_ushCarTypeOptionContentsId=65533
-)"}));
+)"});
 }
 
 TEST(VehicleDecision, AnswerWritesTheOptionUnderTheBareLogName) {
@@ -284,7 +247,7 @@ TEST(VehicleDecision, AnswerWritesTheOptionUnderTheBareLogName) {
     answer.Data.AddTail(Category());
     answer.m_uchStatusId = 255;
     answer.m_cCarTypeOption = Option();
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=10
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=1
@@ -305,17 +268,17 @@ TEST(VehicleDecision, AnswerWritesTheOptionUnderTheBareLogName) {
 [CKRMCVehicleDecisionCmdAdaptDataRcv::ErrWriteOperationLog].Data[1].m_ushCarTypeOptionContentsId=0
 [CKRMCVehicleDecisionCmdAdaptDataRcv::ErrWriteOperationLog].Data[1].m_ulCarTypeOptionContentsNameId=0
 [CKRMCVehicleDecisionCmdAdaptDataRcv::ErrWriteOperationLog].Data[1].m_strCarTypeOptionContentsName=
-)"}));
+)"});
 }
 
 TEST(GetGroupEcuList, RequestWritesTheBaseLinesOnly) {
     CKRMCGetGroupEcuListCmdAdaptDataSnd request;
     request.m_ulEcuId = 4294967295U;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=12
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=-1
-)"}));
+)"});
 }
 
 TEST(GetGroupEcuList, AnswerWritesEachEcuOfEachGroup) {
@@ -328,7 +291,7 @@ TEST(GetGroupEcuList, AnswerWritesEachEcuOfEachGroup) {
     group.m_cEcuList.AddTail(Ecu(1856, "Door"));
     group.m_cEcuList.AddTail(Ecu(1857, "Seat"));
     answer.Data.AddTail(group);
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=12
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -352,19 +315,19 @@ TEST(GetGroupEcuList, AnswerWritesEachEcuOfEachGroup) {
 [CKRMCGetGroupEcuListCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cEcuList[1].m_ulEcuNameId=-1
 [CKRMCGetGroupEcuListCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cEcuList[1].m_strEcuName=Seat
 [CKRMCGetGroupEcuListCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cEcuList[1].m_strEcuShortName=ECM
-)"}));
+)"});
 }
 
 TEST(GetEcuFunctionList, RequestWritesThePhase) {
     CKRMCGetEcuFunctionListCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
     request.m_uchPhaseType = 255;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=13
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCGetEcuFunctionListCmdAdaptDataSnd::ErrWriteOperationLog] m_uchPhaseType=255
-)"}));
+)"});
 }
 
 TEST(GetEcuFunctionList, AnswerWritesTheDetailsOfEachFunction) {
@@ -378,7 +341,7 @@ TEST(GetEcuFunctionList, AnswerWritesTheDetailsOfEachFunction) {
     CKRMCGetEcuFunctionListCmdAdaptDataRcv answer;
     answer.Data.AddTail(detailed);
     answer.Data.AddTail(bare);
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=13
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -387,7 +350,7 @@ TEST(GetEcuFunctionList, AnswerWritesTheDetailsOfEachFunction) {
 [CKRMCGetEcuFunctionListCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].DetailList[1].m_cEcuFunctionDetailId=12
 [CKRMCGetEcuFunctionListCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].DetailList[2].m_cEcuFunctionDetailId=65534
 [CKRMCGetEcuFunctionListCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ushId=4
-)"}));
+)"});
 }
 
 TEST(EcuConnect, RequestWritesGroupAndBus) {
@@ -395,13 +358,13 @@ TEST(EcuConnect, RequestWritesGroupAndBus) {
     request.m_ulEcuId = 2016;
     request.m_ushGroupId = 65535;
     request.m_ushBusId = 2;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=14
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCEcuConnectCmdAdaptDataSnd::ErrWriteOperationLog] m_ushGroupId=65535
 [CKRMCEcuConnectCmdAdaptDataSnd::ErrWriteOperationLog] m_ushBusId=2
-)"}));
+)"});
 }
 
 TEST(EcuConnect, AnswerWritesTheConnectedEcu) {
@@ -412,7 +375,7 @@ TEST(EcuConnect, AnswerWritesTheConnectedEcu) {
     answer.m_uchPhaseType = 255;
     answer.m_ulDescriptionId = 2147483648U;
     answer.m_strDescription = "Engine control";
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=14
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -422,7 +385,7 @@ TEST(EcuConnect, AnswerWritesTheConnectedEcu) {
 [CKRMCEcuConnectCmdAdaptDataRcv::ErrWriteOperationLog] m_uchPhaseType=255
 [CKRMCEcuConnectCmdAdaptDataRcv::ErrWriteOperationLog] m_ulDescriptionId=-2147483648
 [CKRMCEcuConnectCmdAdaptDataRcv::ErrWriteOperationLog] m_strDescription=Engine control
-)"}));
+)"});
 }
 
 TEST(CreateCommCtrlMain, RequestWritesEachIdentifier) {
@@ -433,7 +396,7 @@ TEST(CreateCommCtrlMain, RequestWritesEachIdentifier) {
     request.m_ulEcuId = 1;
     request.Data.AddTail(identifier);
     request.Data.AddTail(CKRMCWrapperCreationData());
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=24
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=1
@@ -441,29 +404,29 @@ TEST(CreateCommCtrlMain, RequestWritesEachIdentifier) {
 [CKRMCCreateCommCtrlMainCmdAdaptDataSnd::ErrWriteOperationLog] Data[0].m_strValue=C:\data %s
 [CKRMCCreateCommCtrlMainCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ushIdType=0
 [CKRMCCreateCommCtrlMainCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_strValue=
-)"}));
+)"});
 }
 
 TEST(CreateCommCtrlMain, AnswerWritesTheBaseLinesOnly) {
     CKRMCCreateCommCtrlMainCmdAdaptDataRcv answer;
     answer.m_bNotSupport = true;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=24
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=1
-)"}));
+)"});
 }
 
 TEST(GetJ2534ConfigParam, RequestWritesTheBus) {
     CKRMCGetJ2534ConfigParamCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
     request.m_ushBusId = 65535;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=27
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCGetJ2534ConfigParamCmdAdaptDataSnd::ErrWriteOperationLog] m_ushBusId=65535
-)"}));
+)"});
 }
 
 TEST(GetJ2534ConfigParam, AnswerWritesEachParameter) {
@@ -476,7 +439,7 @@ TEST(GetJ2534ConfigParam, AnswerWritesEachParameter) {
     CKRMCGetJ2534ConfigParamCmdAdaptDataRcv answer;
     answer.Data.AddTail(dataRate);
     answer.Data.AddTail(large);
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=27
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -484,51 +447,51 @@ TEST(GetJ2534ConfigParam, AnswerWritesEachParameter) {
 [CKRMCGetJ2534ConfigParamCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ulValue=500000
 [CKRMCGetJ2534ConfigParamCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulParameter=-2147483648
 [CKRMCGetJ2534ConfigParamCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulValue=-1
-)"}));
+)"});
 }
 
 TEST(InitMountEcuList, RequestWritesTheModel) {
     CKRMCInitMountEcuListCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
     request.m_ushModelId = 65535;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=40
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCInitMountEcuListCmdAdaptDataSnd::ErrWriteOperationLog] m_ushModelId=65535
-)"}));
+)"});
 }
 
 TEST(InitMountEcuList, AnswerWritesTheResult) {
     CKRMCInitMountEcuListCmdAdaptDataRcv answer;
     answer.m_bInitialize = true;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=40
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCInitMountEcuListCmdAdaptDataRcv::ErrWriteOperationLog] m_bInitialize=1
-)"}));
+)"});
 }
 
 TEST(ReadVBatt, RequestWritesTheBaseLinesOnly) {
     CKRMCReadVBattCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=43
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(ReadVBatt, AnswerWritesTheVoltage) {
     CKRMCReadVBattCmdAdaptDataRcv answer;
     answer.m_ulVBattValue = 4294967295U;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=43
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCReadVBattCmdAdaptDataRcv::ErrWriteOperationLog] m_ulVBattValue=-1
-)"}));
+)"});
 }
 
 TEST(SelectCarId, RequestWritesTheChoicesMade) {
@@ -539,7 +502,7 @@ TEST(SelectCarId, RequestWritesTheChoicesMade) {
     request.m_ushParentBusId = 65534;
     request.Data.AddTail(Choice(65533, 1));
     request.Data.AddTail(Choice(2, 65532));
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=46
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
@@ -550,14 +513,14 @@ TEST(SelectCarId, RequestWritesTheChoicesMade) {
 [CKRMCSelectCarIdCmdAdaptDataSnd::ErrWriteOperationLog] Data[0].m_ushCarTypeCategoryContentsId=1
 [CKRMCSelectCarIdCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ushCarTypeCategoryId=2
 [CKRMCSelectCarIdCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_ushCarTypeCategoryContentsId=65532
-)"}));
+)"});
 }
 
 TEST(SelectCarId, AnswerWritesEachOpenCategory) {
     CKRMCSelectCarIdCmdAdaptDataRcv answer;
     answer.Data.AddTail(CKRMCCommandCarTypeCategoryData());
     answer.Data.AddTail(Category());
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=46
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -571,28 +534,28 @@ TEST(SelectCarId, AnswerWritesEachOpenCategory) {
 [CKRMCSelectCarIdCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cCarTypeOptionContentsList[1].m_ushCarTypeCategoryContentsId=0
 [CKRMCSelectCarIdCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cCarTypeOptionContentsList[1].m_ulCarTypeCategoryContentsNameId=0
 [CKRMCSelectCarIdCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cCarTypeOptionContentsList[1].m_strCarTypeCategoryContentsName=
-)"}));
+)"});
 }
 
 TEST(GetDiagSession, RequestWritesTheBaseLinesOnly) {
     CKRMCGetDiagSessionCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=47
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetDiagSession, AnswerWritesTheSession) {
     CKRMCGetDiagSessionCmdAdaptDataRcv answer;
     answer.m_uchDiagSessionType = 255;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=47
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetDiagSessionCmdAdaptDataRcv::ErrWriteOperationLog] m_uchDiagSessionType=255
-)"}));
+)"});
 }
 
 TEST(SetDiagSession, RequestWritesSessionAndIgnitionCount) {
@@ -601,35 +564,35 @@ TEST(SetDiagSession, RequestWritesSessionAndIgnitionCount) {
     request.m_uchDiagSessionType = 3;
     request.m_bIgOnOffCount = true;
     request.m_ushIgOnOffCount = 65535;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=48
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCSetDiagSessionCmdAdaptDataSnd::ErrWriteOperationLog] m_uchDiagSessionType=3
 [CKRMCSetDiagSessionCmdAdaptDataSnd::ErrWriteOperationLog] m_bIgOnOffCount=1
 [CKRMCSetDiagSessionCmdAdaptDataSnd::ErrWriteOperationLog] m_ushIgOnOffCount=65535
-)"}));
+)"});
 }
 
 TEST(SetDiagSession, AnswerWritesTheResult) {
     CKRMCSetDiagSessionCmdAdaptDataRcv answer;
     answer.m_bResult = true;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=48
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCSetDiagSessionCmdAdaptDataRcv::ErrWriteOperationLog] m_bResult=1
-)"}));
+)"});
 }
 
 TEST(GetVehicleInfo, RequestWritesTheBaseLinesOnly) {
     CKRMCGetVehicleInfoCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=77
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetVehicleInfo, AnswerWritesEachItemWithItsValues) {
@@ -641,9 +604,10 @@ TEST(GetVehicleInfo, AnswerWritesEachItemWithItsValues) {
     CKRMCGetVehicleInfoCmdAdaptDataRcv answer;
     answer.Data.AddTail(item);
     answer.Data.AddTail(CKRMCCommandVehicleInfoItem());
-    EXPECT_EQ(MessageText(answer),
-              Log({
-                  R"(
+    ExpectLog(
+        answer,
+        {
+            R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=77
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -651,67 +615,66 @@ TEST(GetVehicleInfo, AnswerWritesEachItemWithItsValues) {
 [CKRMCGetVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strName=Odometer
 [CKRMCGetVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_uchDispType=1
 )",
-                  Under("[CKRMCGetVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cVehicleInfoList[0]",
-                        SampleItemLines()),
-                  R"(
+            SampleItemLines("[CKRMCGetVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_cVehicleInfoList[0]"),
+            R"(
 [CKRMCGetVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ulNameId=0
 [CKRMCGetVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_strName=
 [CKRMCGetVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_uchDispType=0
 )",
-              }));
+        });
 }
 
 TEST(GetAllDtcSystemList, RequestWritesTheBaseLinesOnly) {
     CKRMCGetAllDtcSystemListCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=78
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetAllDtcSystemList, AnswerWritesEachSystem) {
     CKRMCGetAllDtcSystemListCmdAdaptDataRcv answer;
     answer.m_ulSystemIdList.AddTail(7);
     answer.m_ulSystemIdList.AddTail(4294967295U);
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=78
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetAllDtcSystemListCmdAdaptDataRcv::ErrWriteOperationLog] m_ulSystemIdList[0]=7
 [CKRMCGetAllDtcSystemListCmdAdaptDataRcv::ErrWriteOperationLog] m_ulSystemIdList[1]=-1
-)"}));
+)"});
 }
 
 TEST(GetAllDtcSystemList, AnswerWithoutSystemsWritesTheBaseLinesOnly) {
     CKRMCGetAllDtcSystemListCmdAdaptDataRcv answer;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=78
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
-)"}));
+)"});
 }
 
 TEST(GetVinCode, RequestWritesTheBaseLinesOnly) {
     CKRMCGetVinCodeCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=79
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
-)"}));
+)"});
 }
 
 TEST(GetVinCode, AnswerWritesTheVin) {
     CKRMCGetVinCodeCmdAdaptDataRcv answer;
     answer.m_strVinCode = "1M8GDM9AXKP042788";
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=79
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetVinCodeCmdAdaptDataRcv::ErrWriteOperationLog] m_strVinCode=1M8GDM9AXKP042788
-)"}));
+)"});
 }
 
 TEST(GetCarCategoryVin, RequestWritesEachCategory) {
@@ -719,7 +682,7 @@ TEST(GetCarCategoryVin, RequestWritesEachCategory) {
     request.m_ulEcuId = 2016;
     request.Data.AddTail(CKRMCCommandCarTypeCategoryData());
     request.Data.AddTail(Category());
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=80
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
@@ -733,7 +696,7 @@ TEST(GetCarCategoryVin, RequestWritesEachCategory) {
 [CKRMCGetCarCategoryVinCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_cCarTypeOptionContentsList[1].m_ushCarTypeCategoryContentsId=0
 [CKRMCGetCarCategoryVinCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_cCarTypeOptionContentsList[1].m_ulCarTypeCategoryContentsNameId=0
 [CKRMCGetCarCategoryVinCmdAdaptDataSnd::ErrWriteOperationLog] Data[1].m_cCarTypeOptionContentsList[1].m_strCarTypeCategoryContentsName=
-)"}));
+)"});
 }
 
 TEST(GetCarCategoryVin, AnswerWritesEachCategory) {
@@ -742,25 +705,25 @@ TEST(GetCarCategoryVin, AnswerWritesEachCategory) {
     category.m_ushCarTypeCategoryId = 65535;
     answer.Data.AddTail(category);
     answer.Data.AddTail(CKRMCCommandCarTypeCategoryData());
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=80
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
 [CKRMCGetCarCategoryVinCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ushCarTypeCategoryId=65535
 [CKRMCGetCarCategoryVinCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ushCarTypeCategoryId=0
-)"}));
+)"});
 }
 
 TEST(GetVehicleSystemInfo, RequestWritesTheSystemUnsigned) {
     CKRMCGetVehicleSystemInfoCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
     request.m_ulSystemId = 4294967295U;
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=84
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 [CKRMCGetVehicleSystemInfoCmdAdaptDataSnd::ErrWriteOperationLog] m_ulSystemId=4294967295
-)"}));
+)"});
 }
 
 TEST(GetVehicleSystemInfo, AnswerWritesEachInformation) {
@@ -770,7 +733,7 @@ TEST(GetVehicleSystemInfo, AnswerWritesEachInformation) {
     CKRMCGetVehicleSystemInfoCmdAdaptDataRcv answer;
     answer.Data.AddTail(CKRMCCommandVehicleSystemInfo());
     answer.Data.AddTail(info);
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=84
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -780,7 +743,7 @@ TEST(GetVehicleSystemInfo, AnswerWritesEachInformation) {
 [CKRMCGetVehicleSystemInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cInfoData[0].m_ulValue=-1(4294967295)
 [CKRMCGetVehicleSystemInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cInfoData[0].m_cString.m_ulWordsId=31
 [CKRMCGetVehicleSystemInfoCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_cInfoData[0].m_cString.m_strWords=fitted
-)"}));
+)"});
 }
 
 TEST(SelectVehicleInfo, RequestWritesWhatIsChosen) {
@@ -788,7 +751,7 @@ TEST(SelectVehicleInfo, RequestWritesWhatIsChosen) {
     request.m_ulEcuId = 2016;
     request.m_cVehicleInfoList.AddTail(Info(1, 2021, "2021"));
     request.m_cVehicleInfoList.AddTail(Info(65535, 4294967295U, ""));
-    EXPECT_EQ(MessageText(request), Log({R"(
+    ExpectLog(request, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=107
 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
@@ -798,7 +761,7 @@ TEST(SelectVehicleInfo, RequestWritesWhatIsChosen) {
 [CKRMCSelectVehicleInfoCmdAdaptDataSnd::ErrWriteOperationLog] m_cVehicleInfoList[1].m_ushVehicleInfoId=65535
 [CKRMCSelectVehicleInfoCmdAdaptDataSnd::ErrWriteOperationLog] m_cVehicleInfoList[1].m_ulVehicleInfo=4294967295
 [CKRMCSelectVehicleInfoCmdAdaptDataSnd::ErrWriteOperationLog] m_cVehicleInfoList[1].m_strVehicleInfo=
-)"}));
+)"});
 }
 
 TEST(SelectVehicleInfo, AnswerWritesWhatIsSettledAndWhatIsOpen) {
@@ -810,7 +773,7 @@ TEST(SelectVehicleInfo, AnswerWritesWhatIsSettledAndWhatIsOpen) {
     answer.m_cVehicleInfoSelectList.AddTail(select);
     answer.m_cVehicleInfoSelectList.AddTail(CKRMCCommandVehicleInfoSelectData());
     answer.m_uchStatusId = 255;
-    EXPECT_EQ(MessageText(answer), Log({R"(
+    ExpectLog(answer, {R"(
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=107
 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0
@@ -823,7 +786,7 @@ TEST(SelectVehicleInfo, AnswerWritesWhatIsSettledAndWhatIsOpen) {
 [CKRMCSelectVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] m_cVehicleInfoSelectList[0].m_cVehicleInfoContentsList[0].m_strVehicleInfo=diesel
 [CKRMCSelectVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] m_cVehicleInfoSelectList[1].m_ushVehicleInfoId=0
 [CKRMCSelectVehicleInfoCmdAdaptDataRcv::ErrWriteOperationLog] m_uchStatusId=255
-)"}));
+)"});
 }
 
 }  // namespace
