@@ -44,45 +44,45 @@ std::string Rest(CKRMBinary& binary) {
 TEST(Binary, IsEmptyAtFirst) {
     CKRMBinary binary;
     char byte = 'x';
-    EXPECT_EQ(0u, binary.GetSize());
-    EXPECT_EQ(0u, binary.GetPos());
+    EXPECT_EQ(binary.GetSize(), 0u);
+    EXPECT_EQ(binary.GetPos(), 0u);
     EXPECT_FALSE(binary.Read(&byte, 1));
-    EXPECT_EQ('x', byte);
+    EXPECT_EQ(byte, 'x');
 }
 
 TEST(Binary, CountsWithoutABlock) {
     CKRMBinary binary;
     const char bytes[10] = {};
     EXPECT_TRUE(binary.Write(bytes, 10));
-    EXPECT_EQ(10u, binary.GetPos());
-    EXPECT_EQ(0u, binary.GetSize());
+    EXPECT_EQ(binary.GetPos(), 10u);
+    EXPECT_EQ(binary.GetSize(), 0u);
     char byte = 'x';
     EXPECT_FALSE(binary.Read(&byte, 1));
-    EXPECT_EQ('x', byte);
-    EXPECT_EQ(10u, binary.GetPos());
+    EXPECT_EQ(byte, 'x');
+    EXPECT_EQ(binary.GetPos(), 10u);
 }
 
 TEST(Binary, CountingWrapsAndNeverReadsItsSource) {
     CKRMBinary binary;
     const char byte = 0;
     EXPECT_TRUE(binary.Write(&byte, 0xFFFFFFFF));
-    EXPECT_EQ(0xFFFFFFFFu, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 0xFFFFFFFFu);
     EXPECT_TRUE(binary.Write(&byte, 3));
-    EXPECT_EQ(2u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 2u);
 }
 
 TEST(Binary, FillsABlockToItsLastByte) {
     CKRMBinary binary;
     ASSERT_TRUE(binary.CreateBuffer(8));
-    EXPECT_EQ(8u, binary.GetSize());
-    EXPECT_EQ(0u, binary.GetPos());
+    EXPECT_EQ(binary.GetSize(), 8u);
+    EXPECT_EQ(binary.GetPos(), 0u);
     EXPECT_TRUE(binary.Write("abcde", 5));
     EXPECT_FALSE(binary.Write("FGHI", 4));
-    EXPECT_EQ(5u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 5u);
     EXPECT_TRUE(binary.Write("fgh", 3));
-    EXPECT_EQ(8u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 8u);
     EXPECT_FALSE(binary.Write("i", 1));
-    EXPECT_EQ(8u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 8u);
 }
 
 TEST(Binary, ReadsAllOrNothing) {
@@ -90,14 +90,14 @@ TEST(Binary, ReadsAllOrNothing) {
     Fill(binary, "abcdef");
     char bytes[7] = "......";
     EXPECT_TRUE(binary.Read(bytes, 4));
-    EXPECT_STREQ("abcd..", bytes);
-    EXPECT_EQ(4u, binary.GetPos());
+    EXPECT_STREQ(bytes, "abcd..");
+    EXPECT_EQ(binary.GetPos(), 4u);
     EXPECT_FALSE(binary.Read(bytes, 3));
     EXPECT_FALSE(binary.Read(bytes, 0xFFFFFFFF));
-    EXPECT_STREQ("abcd..", bytes);
-    EXPECT_EQ(4u, binary.GetPos());
+    EXPECT_STREQ(bytes, "abcd..");
+    EXPECT_EQ(binary.GetPos(), 4u);
     EXPECT_TRUE(binary.Read(bytes, 2));
-    EXPECT_STREQ("efcd..", bytes);
+    EXPECT_STREQ(bytes, "efcd..");
     EXPECT_FALSE(binary.Read(bytes, 1));
 }
 
@@ -112,7 +112,7 @@ TEST(Binary, RefusesNothingToCopy) {
         EXPECT_FALSE(binary.Write(&byte, 0));
         EXPECT_FALSE(binary.Read(nullptr, 1));
         EXPECT_FALSE(binary.Read(&byte, 0));
-        EXPECT_EQ(0u, binary.GetPos());
+        EXPECT_EQ(binary.GetPos(), 0u);
     }
 }
 
@@ -123,9 +123,9 @@ TEST(Binary, CreateBufferOfNothingKeepsTheBlock) {
     char byte = 0;
     ASSERT_TRUE(binary.Read(&byte, 1));
     EXPECT_FALSE(binary.CreateBuffer(0));
-    EXPECT_EQ(4u, binary.GetSize());
-    EXPECT_EQ(1u, binary.GetPos());
-    EXPECT_EQ("bcd", Rest(binary));
+    EXPECT_EQ(binary.GetSize(), 4u);
+    EXPECT_EQ(binary.GetPos(), 1u);
+    EXPECT_EQ(Rest(binary), "bcd");
 }
 
 TEST(Binary, CreateBufferStartsAnew) {
@@ -133,8 +133,8 @@ TEST(Binary, CreateBufferStartsAnew) {
     ASSERT_TRUE(binary.CreateBuffer(4));
     ASSERT_TRUE(binary.Write("abcd", 4));
     ASSERT_TRUE(binary.CreateBuffer(6));
-    EXPECT_EQ(6u, binary.GetSize());
-    EXPECT_EQ(0u, binary.GetPos());
+    EXPECT_EQ(binary.GetSize(), 6u);
+    EXPECT_EQ(binary.GetPos(), 0u);
     EXPECT_TRUE(binary.Write("ABCDEF", 6));
 }
 
@@ -142,7 +142,7 @@ TEST(Binary, CreateBufferEndsCounting) {
     CKRMBinary binary;
     ASSERT_TRUE(binary.Write("abc", 3));
     ASSERT_TRUE(binary.CreateBuffer(binary.GetPos()));
-    EXPECT_EQ(0u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 0u);
     EXPECT_TRUE(binary.Write("abc", 3));
     EXPECT_FALSE(binary.Write("d", 1));
 }
@@ -155,11 +155,11 @@ TEST(Binary, SetBufferLeavesTheOldBlockToItsCaller) {
         binary.SetBuffer(first, 2);
         ASSERT_TRUE(binary.Write("x", 1));
         binary.SetBuffer(second, 3);
-        EXPECT_EQ(3u, binary.GetSize());
-        EXPECT_EQ(0u, binary.GetPos());
-        EXPECT_EQ("cde", Rest(binary));
+        EXPECT_EQ(binary.GetSize(), 3u);
+        EXPECT_EQ(binary.GetPos(), 0u);
+        EXPECT_EQ(Rest(binary), "cde");
     }
-    EXPECT_EQ('x', first[0]);
+    EXPECT_EQ(first[0], 'x');
     delete[] first;
 }
 
@@ -167,9 +167,9 @@ TEST(Binary, TheSameBlockAgainSetsTheCursorBack) {
     auto* const block = new unsigned char[3]{'a', 'b', 'c'};
     CKRMBinary binary;
     binary.SetBuffer(block, 3);
-    EXPECT_EQ("abc", Rest(binary));
+    EXPECT_EQ(Rest(binary), "abc");
     binary.SetBuffer(block, 3);
-    EXPECT_EQ("abc", Rest(binary));
+    EXPECT_EQ(Rest(binary), "abc");
 }
 
 TEST(Binary, FreesAnAdoptedBlockButNotOneThatAnotherReplaces) {
@@ -179,47 +179,47 @@ TEST(Binary, FreesAnAdoptedBlockButNotOneThatAnotherReplaces) {
         CKRMBinary binary;
         binary.SetBuffer(new unsigned char[8], 8);
         ASSERT_TRUE(binary.CreateBuffer(8));
-        EXPECT_EQ(before + 1, LivingBlocks());
+        EXPECT_EQ(LivingBlocks(), before + 1);
         const CKRMBinary other;
         binary = other;
-        EXPECT_EQ(before, LivingBlocks());
+        EXPECT_EQ(LivingBlocks(), before);
         binary.SetBuffer(new unsigned char[8], 8);
     }
-    EXPECT_EQ(before, LivingBlocks());
+    EXPECT_EQ(LivingBlocks(), before);
     auto* const kept = new unsigned char[8];
     {
         CKRMBinary binary;
         binary.SetBuffer(kept, 8);
         binary.SetBuffer(nullptr, 0);
     }
-    EXPECT_EQ(before + 1, LivingBlocks());
+    EXPECT_EQ(LivingBlocks(), before + 1);
     delete[] kept;
 }
 
 TEST(Binary, ANullBlockCountsWhateverItsSize) {
     CKRMBinary binary;
     binary.SetBuffer(nullptr, 4);
-    EXPECT_EQ(4u, binary.GetSize());
+    EXPECT_EQ(binary.GetSize(), 4u);
     char byte = 'x';
     EXPECT_FALSE(binary.Read(&byte, 1));
     EXPECT_TRUE(binary.Write("abcdef", 6));
-    EXPECT_EQ(6u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 6u);
 
     CKRMBinary copy(binary);
     CKRMBinary assigned;
     ASSERT_TRUE(assigned.CreateBuffer(2));
     assigned = binary;
     for (CKRMBinary* const each : {&copy, &assigned, &binary}) {
-        EXPECT_EQ(4u, each->GetSize());
-        EXPECT_EQ(6u, each->GetPos());
+        EXPECT_EQ(each->GetSize(), 4u);
+        EXPECT_EQ(each->GetPos(), 6u);
         EXPECT_FALSE(each->Read(&byte, 1));
         EXPECT_TRUE(each->Write("g", 1));
-        EXPECT_EQ(7u, each->GetPos());
+        EXPECT_EQ(each->GetPos(), 7u);
     }
-    EXPECT_EQ('x', byte);
+    EXPECT_EQ(byte, 'x');
     const CKRMBinary& self = binary;
     binary = self;
-    EXPECT_EQ(7u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 7u);
 }
 
 TEST(Binary, ABlockOfNothingCountsAndIsFreed) {
@@ -228,14 +228,14 @@ TEST(Binary, ABlockOfNothingCountsAndIsFreed) {
     char byte = 'x';
     EXPECT_FALSE(binary.Read(&byte, 1));
     EXPECT_TRUE(binary.Write("abc", 3));
-    EXPECT_EQ(3u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 3u);
     EXPECT_FALSE(binary.Read(&byte, 1));
     const CKRMBinary copy(binary);
-    EXPECT_EQ(0u, copy.GetSize());
-    EXPECT_EQ(3u, copy.GetPos());
+    EXPECT_EQ(copy.GetSize(), 0u);
+    EXPECT_EQ(copy.GetPos(), 3u);
     const CKRMBinary& self = binary;
     binary = self;
-    EXPECT_EQ(3u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 3u);
 }
 
 TEST(Binary, ACopyHasABlockOfItsOwn) {
@@ -251,11 +251,11 @@ TEST(Binary, ACopyHasABlockOfItsOwn) {
     assigned = binary;
     ASSERT_TRUE(binary.Write("C", 1));
     for (CKRMBinary* const each : {&copy, &assigned}) {
-        EXPECT_EQ(6u, each->GetSize());
-        EXPECT_EQ(2u, each->GetPos());
-        EXPECT_EQ("cdef", Rest(*each));
+        EXPECT_EQ(each->GetSize(), 6u);
+        EXPECT_EQ(each->GetPos(), 2u);
+        EXPECT_EQ(Rest(*each), "cdef");
     }
-    EXPECT_EQ("def", Rest(binary));
+    EXPECT_EQ(Rest(binary), "def");
 }
 
 TEST(Binary, AnAssignedEmptyOneDropsTheBlock) {
@@ -264,9 +264,9 @@ TEST(Binary, AnAssignedEmptyOneDropsTheBlock) {
     CKRMBinary counting;
     ASSERT_TRUE(counting.Write("12345", 5));
     binary = counting;
-    EXPECT_EQ(0u, binary.GetSize());
-    EXPECT_EQ(5u, binary.GetPos());
-    EXPECT_EQ("", Rest(binary));
+    EXPECT_EQ(binary.GetSize(), 0u);
+    EXPECT_EQ(binary.GetPos(), 5u);
+    EXPECT_EQ(Rest(binary), "");
 }
 
 TEST(Binary, SelfAssignmentLosesTheBytes) {
@@ -276,9 +276,9 @@ TEST(Binary, SelfAssignmentLosesTheBytes) {
     ASSERT_TRUE(binary.Read(&byte, 1));
     const CKRMBinary& self = binary;
     binary = self;
-    EXPECT_EQ(4u, binary.GetSize());
-    EXPECT_EQ(1u, binary.GetPos());
-    EXPECT_EQ(std::string(3, '\0'), Rest(binary));
+    EXPECT_EQ(binary.GetSize(), 4u);
+    EXPECT_EQ(binary.GetPos(), 1u);
+    EXPECT_EQ(Rest(binary), std::string(3, '\0'));
 }
 
 TEST(Binary, SourceAndTargetMayLieInTheBlock) {
@@ -288,10 +288,10 @@ TEST(Binary, SourceAndTargetMayLieInTheBlock) {
     char skipped[2];
     ASSERT_TRUE(binary.Read(skipped, 2));
     EXPECT_TRUE(binary.Write(block, 5));
-    EXPECT_EQ("ababcdeh", std::string(reinterpret_cast<char*>(block), 8));
+    EXPECT_EQ(std::string(reinterpret_cast<char*>(block), 8), "ababcdeh");
     binary.SetBuffer(block, 8);
     EXPECT_TRUE(binary.Read(block + 1, 6));
-    EXPECT_EQ("aababcdh", std::string(reinterpret_cast<char*>(block), 8));
+    EXPECT_EQ(std::string(reinterpret_cast<char*>(block), 8), "aababcdh");
 }
 
 TEST(Binary, WithoutMemoryThereIsNoBlock) {
@@ -308,19 +308,19 @@ TEST(Binary, WithoutMemoryThereIsNoBlock) {
         result = created.CreateBuffer(2);
         assigned = original;
         CKRMBinary copy(original);
-        EXPECT_EQ(0u, copy.GetSize());
-        EXPECT_EQ(0u, copy.GetPos());
+        EXPECT_EQ(copy.GetSize(), 0u);
+        EXPECT_EQ(copy.GetPos(), 0u);
         EXPECT_FALSE(copy.Read(&byte, 1));
         EXPECT_TRUE(copy.Write("abc", 3));
-        EXPECT_EQ(3u, copy.GetPos());
+        EXPECT_EQ(copy.GetPos(), 3u);
     }
     EXPECT_FALSE(result);
     for (CKRMBinary* const each : {&created, &assigned}) {
-        EXPECT_EQ(0u, each->GetSize());
-        EXPECT_EQ(0u, each->GetPos());
+        EXPECT_EQ(each->GetSize(), 0u);
+        EXPECT_EQ(each->GetPos(), 0u);
         EXPECT_FALSE(each->Read(&byte, 1));
     }
-    EXPECT_EQ("bcd", Rest(original));
+    EXPECT_EQ(Rest(original), "bcd");
 }
 
 TEST(Binary, SelfAssignmentWithoutMemoryEmpties) {
@@ -332,8 +332,8 @@ TEST(Binary, SelfAssignmentWithoutMemoryEmpties) {
         const FailAllocations failing(0);
         binary = self;
     }
-    EXPECT_EQ(0u, binary.GetSize());
-    EXPECT_EQ("", Rest(binary));
+    EXPECT_EQ(binary.GetSize(), 0u);
+    EXPECT_EQ(Rest(binary), "");
 }
 
 TEST(Binary, ASerialiserRunTwiceFillsABlockOfJustItsSize) {
@@ -346,10 +346,10 @@ TEST(Binary, ASerialiserRunTwiceFillsABlockOfJustItsSize) {
         }
     };
     serialise();
-    ASSERT_EQ(4000u, binary.GetPos());
+    ASSERT_EQ(binary.GetPos(), 4000u);
     ASSERT_TRUE(binary.CreateBuffer(binary.GetPos()));
     serialise();
-    EXPECT_EQ(4000u, binary.GetPos());
+    EXPECT_EQ(binary.GetPos(), 4000u);
     EXPECT_FALSE(binary.Write("x", 1));
 }
 

@@ -15,7 +15,6 @@
 #include "krm/messages/diag/display.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "tests/support/log_capture.h"
-#include "tests/support/slot.h"
 
 namespace {
 
@@ -97,16 +96,6 @@ TYPED_TEST(FamilyTest, SingleInheritanceFromTheImportedBase) {
     static_assert(std::has_virtual_destructor_v<typename TypeParam::Base>);
     // A command ID isn't a message.
     static_assert(!std::is_convertible_v<krm_ulong, typename TypeParam::Base>);
-}
-
-TYPED_TEST(FamilyTest, SlotsAreDestructorClearDumpLine) {
-    using Base = typename TypeParam::Base;
-    EXPECT_EQ(krm::test::SlotOf(&Base::Clear), 2);
-    if constexpr (TypeParam::kType != 2) {
-        EXPECT_EQ(krm::test::SlotOf(&Base::ErrWriteOperationLog), 3);
-        krm_long (Base::*const line)(const char*, ...) = &Base::ER_WriteOperationLogFormat;
-        EXPECT_EQ(krm::test::SlotOf(line), 4);
-    }
 }
 
 TYPED_TEST(FamilyTest, CopiesTakeTheThirdMemberOfTheImportedBaseAlong) {

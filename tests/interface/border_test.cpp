@@ -41,7 +41,7 @@ TEST(AcrossTheBorder, MadeInTheLibraryDestroyedHere) {
     code.m_strDTC.Format("a text made in the library, number %d", 1);
     filled.Data.AddTail(code);
     auto* const copy = new CKRMCGetDTCCmdAdaptDataRcv(filled);
-    EXPECT_STREQ("a text made in the library, number 1", copy->Data[0].m_strDTC.GetText());
+    EXPECT_STREQ(copy->Data[0].m_strDTC.GetText(), "a text made in the library, number 1");
     delete copy;
 }
 
@@ -52,7 +52,7 @@ TEST(AcrossTheBorder, MadeHereDestroyedInTheLibrary) {
     buffer.SetBuffer(new unsigned char[8]{1, 2, 3, 4, 5, 6, 7, 8}, 8);
     unsigned char first = 0;
     ASSERT_TRUE(buffer.Read(&first, 1));
-    EXPECT_EQ(1, first);
+    EXPECT_EQ(first, 1);
     ASSERT_TRUE(buffer.CreateBuffer(4));  // frees the block above
 
     CKRMList<CKRMCCommandDTCData> codes;
@@ -60,20 +60,20 @@ TEST(AcrossTheBorder, MadeHereDestroyedInTheLibrary) {
     code.m_strComment = "a text long enough to be allocated on its own";
     codes.AddTail(code);
     codes.RemoveAll();
-    EXPECT_EQ(0, codes.GetCount());
+    EXPECT_EQ(codes.GetCount(), 0);
 }
 
 TEST(AcrossTheBorder, ClassesAreKnownOnBothSides) {
     CKRMCCommandConvSignalData* const converter = CKRMCCommandConvSignalData::CreateConverter(3);
-    EXPECT_NE(nullptr, dynamic_cast<CKRMCCommandConvSignalDataHex*>(converter));
-    EXPECT_EQ(nullptr, dynamic_cast<CKRMCCommandConvSignalDataBin*>(converter));
+    EXPECT_NE(dynamic_cast<CKRMCCommandConvSignalDataHex*>(converter), nullptr);
+    EXPECT_EQ(dynamic_cast<CKRMCCommandConvSignalDataBin*>(converter), nullptr);
     CKRMCCommandConvSignalData::DeleteConverter(converter);
 
     CKRMCGetDTCCmdAdaptDataRcv answer;
     CKRMBaseAdaptationData* const untyped = &answer;
-    EXPECT_EQ(&answer, dynamic_cast<CKRMCGetDTCCmdAdaptDataRcv*>(untyped));
-    EXPECT_EQ(nullptr, dynamic_cast<CKRMCBaseCmdAdaptDataSnd*>(untyped));
-    EXPECT_EQ(&answer, krm::MessageAs<CKRMCGetDTCCmdAdaptDataRcv>(untyped));
+    EXPECT_EQ(dynamic_cast<CKRMCGetDTCCmdAdaptDataRcv*>(untyped), &answer);
+    EXPECT_EQ(dynamic_cast<CKRMCBaseCmdAdaptDataSnd*>(untyped), nullptr);
+    EXPECT_EQ(krm::MessageAs<CKRMCGetDTCCmdAdaptDataRcv>(untyped), &answer);
 }
 
 // A list of the user's own takes the template as any other does.
@@ -86,7 +86,7 @@ TEST(AcrossTheBorder, AListOfTheUsersOwn) {
     own.AddTail(OwnElement{7});
     CKRMList<int> numbers;
     numbers.AddTail(own[0].number);
-    EXPECT_EQ(7, numbers[0]);
+    EXPECT_EQ(numbers[0], 7);
 }
 
 }  // namespace

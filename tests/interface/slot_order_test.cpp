@@ -4,7 +4,11 @@
 
 #include <type_traits>
 
-#include "krm/adaptation_data.h"
+#include "krm/convert/specialised.h"
+#include "krm/core/binary.h"
+#include "krm/messages/all_messages.h"
+#include "krm/tree/element.h"
+#include "krm/tree/element_group.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/slot.h"
 
@@ -16,11 +20,7 @@ TEST(SlotOrder, OfThisCompiler) {
 }
 #else
 
-/// The documented slot, which counts the destructor as one; it takes two entries of the table.
-template <class Member>
-int SlotOf(Member member) {
-    return krm::test::SlotOf(member) - 1;
-}
+using krm::test::SlotOf;
 
 /// The number of slots of `Class`, destructor included: the slot that a further virtual operation gets.
 template <class Class>
@@ -33,7 +33,7 @@ int SlotCountOf() {
 }
 
 TEST(SlotOrder, List) {
-    EXPECT_EQ(1, SlotCountOf<CKRMList<CKRMCCommandDispData> >());
+    EXPECT_EQ(SlotCountOf<CKRMList<CKRMCCommandDispData> >(), 1);
 }
 
 struct SmallRecord : krm::RecordOf<SmallRecord> {
@@ -41,13 +41,16 @@ struct SmallRecord : krm::RecordOf<SmallRecord> {
 };
 
 TEST(SlotOrder, Record) {
-    EXPECT_EQ(1, SlotOf(&CKRMCBaseAdaptDataStructure::Clear));
-    EXPECT_EQ(2, SlotOf(&CKRMCBaseAdaptDataStructure::ErrWriteOperationLogStructure));
-    EXPECT_EQ(3, SlotOf(&CKRMCBaseAdaptDataStructure::ER_WriteOperationLogFormatStructure));
-    EXPECT_EQ(4, SlotCountOf<SmallRecord>());
-    EXPECT_EQ(4, SlotCountOf<CKRMCCommandConversionData>());
-    EXPECT_EQ(1, SlotOf(&CKRMCCommandConversionData::Clear));
-    EXPECT_EQ(2, SlotOf(&CKRMCCommandConversionData::ErrWriteOperationLogStructure));
+    EXPECT_EQ(SlotOf(&CKRMCBaseAdaptDataStructure::Clear), 1);
+    using Base = CKRMCBaseAdaptDataStructure;
+    krm_long (Base::*const dump)(const char*, ...) = &Base::ErrWriteOperationLogStructure;
+    krm_long (Base::*const line)(const char*, ...) = &Base::ER_WriteOperationLogFormatStructure;
+    EXPECT_EQ(SlotOf(dump), 2);
+    EXPECT_EQ(SlotOf(line), 3);
+    EXPECT_EQ(SlotCountOf<SmallRecord>(), 4);
+    EXPECT_EQ(SlotCountOf<CKRMCCommandConversionData>(), 4);
+    EXPECT_EQ(SlotOf(&CKRMCCommandConversionData::Clear), 1);
+    EXPECT_EQ(SlotOf(&CKRMCCommandConversionData::ErrWriteOperationLogStructure), 2);
 }
 
 template <class Message>
@@ -60,55 +63,56 @@ using DumpingBases = testing::Types<CKRMCBaseCmdAdaptData, CKRMCBaseCmdAdaptData
 TYPED_TEST_SUITE(MessageSlots, DumpingBases);
 
 TYPED_TEST(MessageSlots, DestructorClearDumpLine) {
-    EXPECT_EQ(1, SlotOf(&TypeParam::Clear));
-    EXPECT_EQ(2, SlotOf(&TypeParam::ErrWriteOperationLog));
-    EXPECT_EQ(3, SlotOf(&TypeParam::ER_WriteOperationLogFormat));
-    EXPECT_EQ(4, SlotCountOf<TypeParam>());
+    EXPECT_EQ(SlotOf(&TypeParam::Clear), 1);
+    EXPECT_EQ(SlotOf(&TypeParam::ErrWriteOperationLog), 2);
+    krm_long (TypeParam::*const line)(const char*, ...) = &TypeParam::ER_WriteOperationLogFormat;
+    EXPECT_EQ(SlotOf(line), 3);
+    EXPECT_EQ(SlotCountOf<TypeParam>(), 4);
 }
 
 TEST(SlotOrder, ViewerMessagesHaveNoDump) {
-    EXPECT_EQ(1, SlotOf(&CKRMCBaseVdcAdaptData::Clear));
-    EXPECT_EQ(2, SlotCountOf<CKRMCBaseVdcAdaptData>());
-    EXPECT_EQ(2, SlotCountOf<CKRMCBaseVdcAdaptDataSnd>());
-    EXPECT_EQ(2, SlotCountOf<CKRMCBaseVdcAdaptDataRcv>());
+    EXPECT_EQ(SlotOf(&CKRMCBaseVdcAdaptData::Clear), 1);
+    EXPECT_EQ(SlotCountOf<CKRMCBaseVdcAdaptData>(), 2);
+    EXPECT_EQ(SlotCountOf<CKRMCBaseVdcAdaptDataSnd>(), 2);
+    EXPECT_EQ(SlotCountOf<CKRMCBaseVdcAdaptDataRcv>(), 2);
 }
 
 TEST(SlotOrder, ByteBuffer) {
-    EXPECT_EQ(1, SlotCountOf<CKRMBinary>());
+    EXPECT_EQ(SlotCountOf<CKRMBinary>(), 1);
 }
 
 TEST(SlotOrder, Tree) {
-    EXPECT_EQ(1, SlotOf(&CKRMCNode::Description));
+    EXPECT_EQ(SlotOf(&CKRMCNode::Description), 1);
     using Attribute = CKRMCAttribute;
-    EXPECT_EQ(1, SlotOf(&Attribute::Description));
-    EXPECT_EQ(2, SlotOf(&Attribute::ClearValue));
-    EXPECT_EQ(3, SlotOf(&Attribute::CompareValue));
-    EXPECT_EQ(4, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, krm_ulong)>(&Attribute::SetValue)));
-    EXPECT_EQ(5, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, krm_long)>(&Attribute::SetValue)));
-    EXPECT_EQ(6, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, double)>(&Attribute::SetValue)));
-    EXPECT_EQ(7, SlotOf(static_cast<bool (Attribute::*)(CKRMError*, const char*)>(&Attribute::SetValue)));
-    EXPECT_EQ(8, SlotCountOf<Attribute>());
+    EXPECT_EQ(SlotOf(&Attribute::Description), 1);
+    EXPECT_EQ(SlotOf(&Attribute::ClearValue), 2);
+    EXPECT_EQ(SlotOf(&Attribute::CompareValue), 3);
+    EXPECT_EQ(SlotOf(static_cast<bool (Attribute::*)(CKRMError*, krm_ulong)>(&Attribute::SetValue)), 4);
+    EXPECT_EQ(SlotOf(static_cast<bool (Attribute::*)(CKRMError*, krm_long)>(&Attribute::SetValue)), 5);
+    EXPECT_EQ(SlotOf(static_cast<bool (Attribute::*)(CKRMError*, double)>(&Attribute::SetValue)), 6);
+    EXPECT_EQ(SlotOf(static_cast<bool (Attribute::*)(CKRMError*, const char*)>(&Attribute::SetValue)), 7);
+    EXPECT_EQ(SlotCountOf<Attribute>(), 8);
     using Element = CKRMCElement;
-    EXPECT_EQ(1, SlotOf(&Element::Description));
-    EXPECT_EQ(2, SlotOf(&Element::RemoveAll));
-    EXPECT_EQ(3, SlotOf(&Element::CreateAttribute));
-    EXPECT_EQ(4, SlotOf(&Element::RemoveAttribute));
-    EXPECT_EQ(5, SlotOf(&Element::GetAttribute));
-    EXPECT_EQ(6, SlotOf(&Element::CreateElementGroup));
-    EXPECT_EQ(7, SlotOf(&Element::RemoveElementGroup));
-    EXPECT_EQ(8, SlotOf(&Element::GetElementGroup));
-    EXPECT_EQ(9, SlotOf(&Element::CreateElement));
-    EXPECT_EQ(10, SlotOf(&Element::RemoveElement));
-    EXPECT_EQ(11, SlotOf(&Element::GetFirstElement));
-    EXPECT_EQ(12, SlotOf(&Element::GetElementByAttribute));
-    EXPECT_EQ(13, SlotCountOf<Element>());
+    EXPECT_EQ(SlotOf(&Element::Description), 1);
+    EXPECT_EQ(SlotOf(&Element::RemoveAll), 2);
+    EXPECT_EQ(SlotOf(&Element::CreateAttribute), 3);
+    EXPECT_EQ(SlotOf(&Element::RemoveAttribute), 4);
+    EXPECT_EQ(SlotOf(&Element::GetAttribute), 5);
+    EXPECT_EQ(SlotOf(&Element::CreateElementGroup), 6);
+    EXPECT_EQ(SlotOf(&Element::RemoveElementGroup), 7);
+    EXPECT_EQ(SlotOf(&Element::GetElementGroup), 8);
+    EXPECT_EQ(SlotOf(&Element::CreateElement), 9);
+    EXPECT_EQ(SlotOf(&Element::RemoveElement), 10);
+    EXPECT_EQ(SlotOf(&Element::GetFirstElement), 11);
+    EXPECT_EQ(SlotOf(&Element::GetElementByAttribute), 12);
+    EXPECT_EQ(SlotCountOf<Element>(), 13);
     using Group = CKRMCElementGroup;
-    EXPECT_EQ(1, SlotOf(&Group::Description));
-    EXPECT_EQ(2, SlotOf(&Group::CreateElement));
-    EXPECT_EQ(3, SlotOf(&Group::RemoveElement));
-    EXPECT_EQ(4, SlotOf(&Group::GetFirstElement));
-    EXPECT_EQ(5, SlotOf(&Group::GetElementByAttribute));
-    EXPECT_EQ(6, SlotCountOf<Group>());
+    EXPECT_EQ(SlotOf(&Group::Description), 1);
+    EXPECT_EQ(SlotOf(&Group::CreateElement), 2);
+    EXPECT_EQ(SlotOf(&Group::RemoveElement), 3);
+    EXPECT_EQ(SlotOf(&Group::GetFirstElement), 4);
+    EXPECT_EQ(SlotOf(&Group::GetElementByAttribute), 5);
+    EXPECT_EQ(SlotCountOf<Group>(), 6);
 }
 
 // Every message and every record, by the list of all classes.
@@ -128,7 +132,7 @@ int ExpectedSlots() {
 TEST(SlotOrder, EveryMessageAndListElement) {
 #define KRM_EXPECT_SLOTS(Class, ...)                                       \
     if constexpr (std::is_polymorphic_v<Class>) {                          \
-        EXPECT_EQ(ExpectedSlots<Class>(), SlotCountOf<Class>()) << #Class; \
+        EXPECT_EQ(SlotCountOf<Class>(), ExpectedSlots<Class>()) << #Class; \
     }
     KRM_ALL_MESSAGES(KRM_EXPECT_SLOTS)
     KRM_ALL_LIST_ELEMENTS(KRM_EXPECT_SLOTS)
@@ -157,21 +161,21 @@ TEST(SlotOrder, Converter) {
                                                krm_long, unsigned char, double, double);
     using ToRawByRaws = krm_ulong (Base::*)(krm_ulong*, double, unsigned char, unsigned short, krm_long, krm_long,
                                             krm_long, unsigned char, krm_ulong, krm_ulong);
-    EXPECT_EQ(1, SlotOf(&Base::IsBinaryDataType));
-    EXPECT_EQ(2, SlotOf(static_cast<FromBytes>(&Base::ConvCommandDispData)));
-    EXPECT_EQ(3, SlotOf(static_cast<FromRaw>(&Base::ConvCommandDispData)));
-    EXPECT_EQ(4, SlotOf(&Base::ConvCommandDispVariableData));
-    EXPECT_EQ(5, SlotOf(static_cast<ToRawByDoubles>(&Base::ConvLogicalValue)));
-    EXPECT_EQ(6, SlotOf(static_cast<ToRawByRaws>(&Base::ConvLogicalValue)));
-    EXPECT_EQ(7, SlotOf(&Base::ValueConversion));
-    EXPECT_EQ(8, SlotOf(&Base::StringConversion));
-    EXPECT_EQ(9, SlotOf(&Base::StringVariableConversion));
-    EXPECT_EQ(10, SlotOf(&Steps::PhysicalConversion));
-    EXPECT_EQ(11, SlotOf(&Steps::SignedConversion));
-    EXPECT_EQ(12, SlotOf(&Steps::DecStringConversion));
-    EXPECT_EQ(13, SlotOf(&Steps::HexStringConversion));
-    EXPECT_EQ(14, SlotOf(&Steps::HexStringConversion2));
-    EXPECT_EQ(15, SlotCountOf<Base>());
+    EXPECT_EQ(SlotOf(&Base::IsBinaryDataType), 1);
+    EXPECT_EQ(SlotOf(static_cast<FromBytes>(&Base::ConvCommandDispData)), 2);
+    EXPECT_EQ(SlotOf(static_cast<FromRaw>(&Base::ConvCommandDispData)), 3);
+    EXPECT_EQ(SlotOf(&Base::ConvCommandDispVariableData), 4);
+    EXPECT_EQ(SlotOf(static_cast<ToRawByDoubles>(&Base::ConvLogicalValue)), 5);
+    EXPECT_EQ(SlotOf(static_cast<ToRawByRaws>(&Base::ConvLogicalValue)), 6);
+    EXPECT_EQ(SlotOf(&Base::ValueConversion), 7);
+    EXPECT_EQ(SlotOf(&Base::StringConversion), 8);
+    EXPECT_EQ(SlotOf(&Base::StringVariableConversion), 9);
+    EXPECT_EQ(SlotOf(&Steps::PhysicalConversion), 10);
+    EXPECT_EQ(SlotOf(&Steps::SignedConversion), 11);
+    EXPECT_EQ(SlotOf(&Steps::DecStringConversion), 12);
+    EXPECT_EQ(SlotOf(&Steps::HexStringConversion), 13);
+    EXPECT_EQ(SlotOf(&Steps::HexStringConversion2), 14);
+    EXPECT_EQ(SlotCountOf<Base>(), 15);
 }
 
 template <class Converter>
@@ -190,7 +194,7 @@ using SpecialisedConverters = testing::Types<
 TYPED_TEST_SUITE(ConverterSlots, SpecialisedConverters);
 
 TYPED_TEST(ConverterSlots, NoneAdded) {
-    EXPECT_EQ(15, SlotCountOf<TypeParam>());
+    EXPECT_EQ(SlotCountOf<TypeParam>(), 15);
 }
 
 #endif

@@ -183,13 +183,13 @@ TEST(FormatTest, WidthAndPrecisionFromTheArguments) {
 
 // GNU's printf drops these zeros, as "1.e+06"; the C standard keeps them.
 TEST(FormatTest, GeneralWithItsZerosRoundsUpToAPowerOfTen) {
-    EXPECT_EQ("1.00000e+06", Formatted("%#g", 999999.99));
-    EXPECT_EQ("1.0E+02", Formatted("%#.2G", 99.9));
-    EXPECT_EQ("1.e+02", Formatted("%#.0g", 99.9));
-    EXPECT_EQ("100.", Formatted("%#.3g", 99.99));
-    EXPECT_EQ("100000.", Formatted("%#g", 99999.99));
-    EXPECT_EQ("1.000e-05", Formatted("%#.4g", 0.00000999999));
-    EXPECT_EQ("0.0001000", Formatted("%#.4g", 0.0000999999));
+    EXPECT_EQ(Formatted("%#g", 999999.99), "1.00000e+06");
+    EXPECT_EQ(Formatted("%#.2G", 99.9), "1.0E+02");
+    EXPECT_EQ(Formatted("%#.0g", 99.9), "1.e+02");
+    EXPECT_EQ(Formatted("%#.3g", 99.99), "100.");
+    EXPECT_EQ(Formatted("%#g", 99999.99), "100000.");
+    EXPECT_EQ(Formatted("%#.4g", 0.00000999999), "1.000e-05");
+    EXPECT_EQ(Formatted("%#.4g", 0.0000999999), "0.0001000");
 }
 
 TEST(FormatTest, PercentPrintsItself) {

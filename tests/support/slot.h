@@ -7,17 +7,18 @@
 
 namespace krm::test {
 
-/// The index of a virtual operation in its class's virtual table, counted from 0; -1 for one that isn't virtual.
+/// The documented slot of a virtual operation: its place behind the destructor, which is slot 0 and counts as one; -2 for
+/// an operation that isn't virtual.
 ///
-/// GCC's and Clang's pointer to a virtual member function holds one more than the slot's offset in bytes. Their virtual
-/// destructors take two slots, so the first operation behind a destructor has index 2.
+/// GCC's and Clang's pointer to a virtual member function holds one more than the offset, in bytes, of its entry in the
+/// virtual table. Their virtual destructors take two entries.
 template <class PointerToMember>
 int SlotOf(PointerToMember operation) {
     std::ptrdiff_t word = 0;
     static_assert(sizeof operation >= sizeof word);
     std::memcpy(&word, &operation, sizeof word);
     const auto size = static_cast<std::ptrdiff_t>(sizeof(void*));
-    return word % size == 1 ? static_cast<int>((word - 1) / size) : -1;
+    return word % size == 1 ? static_cast<int>((word - 1) / size) - 1 : -2;
 }
 
 }  // namespace krm::test

@@ -33,7 +33,7 @@ void RunOnSmallStack(Function function) {
     const auto thread =
         reinterpret_cast<HANDLE>(_beginthreadex(nullptr, static_cast<unsigned>(kSmallStack), CallOnSmallStack<Function>,
                                                 &function, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr));
-    ASSERT_NE(nullptr, thread);
+    ASSERT_NE(thread, nullptr);
     WaitForSingleObject(thread, INFINITE);
     CloseHandle(thread);
 }
@@ -49,10 +49,10 @@ void* CallOnSmallStack(void* function) {
 template <class Function>
 void RunOnSmallStack(Function function) {
     pthread_attr_t attributes;
-    ASSERT_EQ(0, pthread_attr_init(&attributes));
-    ASSERT_EQ(0, pthread_attr_setstacksize(&attributes, kSmallStack));
+    ASSERT_EQ(pthread_attr_init(&attributes), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, kSmallStack), 0);
     pthread_t thread;
-    ASSERT_EQ(0, pthread_create(&thread, &attributes, CallOnSmallStack<Function>, &function));
+    ASSERT_EQ(pthread_create(&thread, &attributes, CallOnSmallStack<Function>, &function), 0);
     pthread_join(thread, nullptr);
     pthread_attr_destroy(&attributes);
 }

@@ -107,17 +107,6 @@ inline std::uintptr_t AddressOf(const void* object) {
     return reinterpret_cast<std::uintptr_t>(object);
 }
 
-#if defined(__GNUC__)
-/// The slot of a virtual operation, where the compiler follows the Itanium ABI: there a pointer to it holds 1 plus the
-/// slot's offset. The two slots of a destructor come first.
-template <class Operation>
-std::size_t SlotOf(Operation operation) {
-    std::uintptr_t word = 0;
-    std::memcpy(&word, &operation, sizeof word);
-    return static_cast<std::size_t>(word - 1) / sizeof(void*);
-}
-#endif
-
 }  // namespace krm::test
 
 #endif  // KRM_TESTS_TREE_OWN_NODES_H_
