@@ -586,6 +586,70 @@ TEST(ForEachTest, CountsPlainElementsAndWritesSeveralFieldsPerLine) {
                             "P.m_cRows[1].m_strName=b(1)"));
 }
 
+// A command of the program's own.
+
+class OwnRequest : public krm::MessageOf<OwnRequest, CKRMCBaseCmdAdaptDataSnd, krm::CommandName("ReadPaintCode", 900)> {
+public:
+    void Dump(const krm::MessageLines& line) { line("[%s] m_uchLayer=%d", m_uchLayer); }
+    unsigned char m_uchLayer = 0;
+};
+
+TEST(MessageTest, ACommandOfOnesOwnHasItsIdAndItsLogName) {
+    ExpectTypeAndIdStay<OwnRequest>(1, 900);
+    static_assert(OwnRequest::kCommandType == 1 && OwnRequest::kCommandId == 900);
+    OwnRequest request;
+    request.m_ulEcuId = 5;
+    request.m_uchLayer = 2;
+    EXPECT_THAT(MessageLines(request),
+                ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
+                            "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=900",
+                            "[CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=5",
+                            "[CKRMCReadPaintCodeCmdAdaptDataSnd::ErrWriteOperationLog] m_uchLayer=2"));
+    CKRMBaseAdaptationData* const message = &request;
+    EXPECT_EQ(krm::MessageAs<OwnRequest>(message), &request);
+    EXPECT_EQ(krm::MessageAs<Request>(message), nullptr);
+}
+
+// Messages without a Dump.
+
+template <class Base>
+class Silent : public krm::MessageOf<Silent<Base>, Base, krm::CommandName("KeepSilent", 901)> {};
+
+template <class Base>
+std::vector<std::string> SilentLines() {
+    Silent<Base> message;
+    return MessageLines(message);
+}
+
+TEST(MessageTest, WithoutADumpTheBasesLinesAreAll) {
+    EXPECT_THAT(SilentLines<CKRMCBaseCmdAdaptDataSnd>(),
+                ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
+                            "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=901",
+                            "[CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=0"));
+    EXPECT_THAT(SilentLines<CKRMCBaseCmdAdaptDataRcv>(),
+                ElementsAre("[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1",
+                            "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=901",
+                            "[CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0"));
+    EXPECT_THAT(SilentLines<CKRMCBaseDsdiAdaptDataSnd>(),
+                ElementsAre("[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8",
+                            "[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=901",
+                            "[CKRMCBaseDsdiAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=0"));
+    const std::vector<std::string> import = {"[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8",
+                                             "[CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=901"};
+    EXPECT_EQ(SilentLines<CKRMCBaseDsdiAdaptDataRcv>(), import);
+    const std::vector<std::string> unit = {"[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10",
+                                           "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=901"};
+    EXPECT_EQ(SilentLines<CKRMCBaseUccAdaptDataSnd>(), unit);
+    EXPECT_EQ(SilentLines<CKRMCBaseUccAdaptDataRcv>(), unit);
+    const std::vector<std::string> words = {"[CKRMCBaseDwtAdaptData::ErrWriteOperationLog] m_dwCommandType=14",
+                                            "[CKRMCBaseDwtAdaptData::ErrWriteOperationLog] m_dwCommandID=901"};
+    EXPECT_EQ(SilentLines<CKRMCBaseDwtAdaptDataSnd>(), words);
+    EXPECT_EQ(SilentLines<CKRMCBaseDwtAdaptDataRcv>(), words);
+    // The viewer family has no dump to inherit.
+    static_assert(!HasDump<Silent<CKRMCBaseVdcAdaptDataSnd>> && !HasDump<Silent<CKRMCBaseVdcAdaptDataRcv>>);
+    static_assert(HasDump<Silent<CKRMCBaseCmdAdaptDataSnd>>);
+}
+
 // Asking an untyped message for a class.
 
 TEST(MessageAsTest, GivesTheClassThatTheMessageIs) {
