@@ -1,10 +1,13 @@
 // The test program. With KRM_TEST_LOCALE in the environment every test runs in the user's locale (LC_ALL and so on)
-// instead of the C locale that a program starts in: what the library says, dates and times excepted, must not change.
+// instead of the C locale that a program starts in: what the library says, dates and times excepted, must not change. With
+// KRM_UNDER in the environment the tests that can't run under the tool named there are skipped (tests/support/not_under.h).
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <cstdlib>
+
+#include "tests/support/not_under.h"
 
 namespace {
 
@@ -16,6 +19,15 @@ public:
             // Else the whole run would show nothing.
             ASSERT_STRNE(std::localeconv()->decimal_point, ".");
         }
+    }
+};
+
+class NameOfTheTool : public ::testing::Environment {
+public:
+    void SetUp() override {
+        // A misspelt name would skip nothing and say nothing.
+        const char* const under = std::getenv("KRM_UNDER");
+        ASSERT_TRUE(under == nullptr || krm::test::RunsUnder(krm::test::Tool::Memcheck)) << "no such tool: " << under;
     }
 };
 
@@ -32,5 +44,6 @@ extern "C" const char* __tsan_default_suppressions() {
 int main(int argc, char** argv) {
     ::testing::InitGoogleMock(&argc, argv);
     ::testing::AddGlobalTestEnvironment(new UserLocale);  // GoogleTest's from here on
+    ::testing::AddGlobalTestEnvironment(new NameOfTheTool);
     return RUN_ALL_TESTS();
 }

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "tests/support/converters.h"
+#include "tests/support/not_under.h"
 
 namespace {
 
@@ -63,6 +64,7 @@ TEST(DecimalText, EveryExponentAndItsBorders) {
 }
 
 TEST(DecimalText, RandomValues) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     std::mt19937_64 random(9);
     for (int i = 0; i < 30'000; ++i) {
         ExpectFormatted(static_cast<double>(static_cast<std::int64_t>(random())) / 1e13);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "tests/support/converters.h"
+#include "tests/support/not_under.h"
 
 namespace krm::test {
 namespace {
@@ -144,6 +145,7 @@ private:
 // Rounding makes up for whatever the scaling's last bits lost: every raw value comes back. Two's complement comes back
 // with its sign in all 32 bits, sign and magnitude without its sign.
 TEST_P(RoundTrip, RoundingBringsBackEveryValue) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Differences differences;
     ForEveryRawValue([&](krm_ulong raw, std::int64_t number, double value, const Item& item) {
         const krm_ulong back = ByLimits(value, item, kInfinity, -kInfinity);
@@ -157,6 +159,7 @@ TEST_P(RoundTrip, RoundingBringsBackEveryValue) {
 
 // Limits in the middle of the range: what is beyond comes back as the limit, all else as itself.
 TEST_P(RoundTrip, PhysicalLimitsClamp) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Differences differences;
     const bool falls = (GetParam().mul < 0) != (GetParam().div < 0);
     ForEveryRawValue([&](krm_ulong raw, std::int64_t number, double value, const Item& item) {
@@ -179,6 +182,7 @@ TEST_P(RoundTrip, PhysicalLimitsClamp) {
 // decimals and with a divisor that is a power of two; and one decimal place always comes back, as ten is the sum of two
 // powers of two. The limits come back as they were passed: with their bits, not as numbers.
 TEST_P(RoundTrip, TruncationBringsBackWhatIsExactAndLosesAtMostOne) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     const Scaling& scaling = GetParam();
     const bool exact = scaling.decimals == 0 ? IsPowerOfTwo(scaling.div)
                                              : scaling.decimals == 1 && scaling.mul == 1 && scaling.div == 1;
@@ -214,6 +218,7 @@ class ExactRoundTrip : public RoundTrip {};
 
 // Limits anywhere in the range, one of them with bits above the bit length, which the value's own bits don't have.
 TEST_P(ExactRoundTrip, RawLimitsComeBackAsPassed) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Differences differences;
     ForEveryRawValue([&](krm_ulong raw, std::int64_t number, double value, Item item) {
         const krm_ulong stray = item.sign == 1 ? krm_ulong{0xA0000} : krm_ulong{0};
@@ -240,6 +245,7 @@ INSTANTIATE_TEST_SUITE_P(Scalings, ExactRoundTrip,
 // A multiplier of 0 makes every raw value the same; none of them comes back, but each call ends in the value that what no
 // integer holds has under its sign code.
 TEST(RoundTripWithoutMultiplier, GivesOneValueForAll) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     CKRMCCommandConvSignalData converter;
     for (const unsigned char sign : std::vector<unsigned char>{0, 1, 2, 3}) {
         for (unsigned short bits = 1; bits <= kMostBits; ++bits) {
@@ -263,6 +269,7 @@ TEST(RoundTripWithoutMultiplier, GivesOneValueForAll) {
 
 // The values that truncation loses are known ones.
 TEST(RoundTripTruncated, LosesKnownHundredths) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     CKRMCCommandConvSignalData converter;
     std::vector<krm_ulong> lost;
     const krm_ulong max = 255;
@@ -283,6 +290,7 @@ TEST(RoundTripTruncated, LosesKnownHundredths) {
 
 // Sign codes without a meaning count as unsigned, both ways.
 TEST(RoundTripOfEverySignCode, RoundingBringsBackEveryValue) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     CKRMCCommandConvSignalData converter;
     Differences differences;
     for (unsigned sign = 0; sign <= 255; ++sign) {
@@ -304,6 +312,7 @@ TEST(RoundTripOfEverySignCode, RoundingBringsBackEveryValue) {
 // A bit length of 0 counts as 32 on the way to the number. On the way back sign code 0, which alone is clamped to what the
 // bits hold, has none to hold anything.
 TEST(RoundTripOfNoBits, BringsBackAllButSignCode0) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     CKRMCCommandConvSignalData converter;
     Differences differences;
     const krm_ulong max = 0xFFFF;
@@ -323,6 +332,7 @@ TEST(RoundTripOfNoBits, BringsBackAllButSignCode0) {
 
 // Every class, those included that have a way of their own to the physical value: the way back is the base's.
 TEST(RoundTripThroughTheFactory, EndsInTheDocumentedValue) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Differences differences;
     for (const int code : AllCodes()) {
         const ConverterPtr converter = Create(code);

@@ -8,6 +8,7 @@
 
 #include "tests/support/converters.h"
 #include "tests/support/fields.h"
+#include "tests/support/not_under.h"
 
 namespace krm::test {
 namespace {
@@ -369,6 +370,7 @@ protected:
 };
 
 TEST_P(EveryType, All8BitValues) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Sweep sweep(GetParam());
     const std::vector<Pattern> patterns = {{0, "off", 70}, {1, "on", 71}, {1, "second", 72}, {200, "many", 73}};
     for (const unsigned sign : {0U, 1U, 2U, 3U, 255U}) {
@@ -398,6 +400,7 @@ TEST_P(EveryType, All8BitValues) {
 }
 
 TEST_P(EveryType, All16BitValues) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Sweep sweep(GetParam());
     Item item{.sign = 1, .bits = 16, .mul = 3, .div = 8, .offset = -400, .decimals = 1, .max = 0x7000, .min = 0x9000};
     item.patterns = {{0, "low", 70}, {1, "high", 71}, {700, "seven hundred", 72}};
@@ -413,6 +416,7 @@ TEST_P(EveryType, All16BitValues) {
 }
 
 TEST_P(EveryType, ValuesOver32Bits) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Sweep sweep(GetParam());
     Item item{.sign = 1,
               .bits = 32,

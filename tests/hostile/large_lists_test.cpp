@@ -7,6 +7,7 @@
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/words.h"
 #include "tests/support/failing_allocation.h"
+#include "tests/support/not_under.h"
 
 namespace krm::test {
 namespace {
@@ -46,6 +47,7 @@ private:
 };
 
 TEST(AMillion, RecordsInAMessage) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     const long before = LivingBlocks();
     {
         CKRMCGetEOPInspectionResultMessageCmdAdaptDataRcv message;
@@ -83,6 +85,7 @@ TEST(AMillion, RecordsInAMessage) {
 }
 
 TEST(AMillion, NumbersInAMessage) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     const long before = LivingBlocks();
     CKRMCGetTranslationStringCmdAdaptDataSnd message;
     for (krm_ulong i = 0; i < kMillion; ++i) {
@@ -102,6 +105,7 @@ TEST(AMillion, NumbersInAMessage) {
 }
 
 TEST(AMillion, ElementsTakenOffOneByOne) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     const long before = LivingBlocks();
     CKRMList<CKRMCCommandWordsData> list;
     for (int i = 0; i < kMillion; ++i) {

@@ -13,6 +13,7 @@
 #include "tests/support/converters.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_capture.h"
+#include "tests/support/not_under.h"
 
 namespace krm::test {
 namespace {
@@ -84,6 +85,7 @@ private:
 };
 
 TEST_P(HostileValues, TextsWithEveryCountOfDecimals) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     for (unsigned decimals = 0; decimals <= 255; ++decimals) {
         for (const double phys : kDoubles) {
             ExpectTexts(phys, 0xABCDEF01U, {.bits = 16, .decimals = static_cast<unsigned char>(decimals)});
@@ -95,6 +97,7 @@ TEST_P(HostileValues, TextsWithEveryCountOfDecimals) {
 }
 
 TEST_P(HostileValues, TextsAtEveryBitLength) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     for (const unsigned short bits : kBitLengths) {
         for (const double phys : kDoubles) {
             for (const krm_ulong raw : kRaws) {
@@ -108,6 +111,7 @@ TEST_P(HostileValues, TextsAtEveryBitLength) {
 }
 
 TEST_P(HostileValues, PhysicalValues) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     if (!reference::kHasExtendedPrecision) {
         GTEST_SKIP() << "this compiler's long double can't hold the reference";
     }
@@ -131,6 +135,7 @@ TEST_P(HostileValues, PhysicalValues) {
 }
 
 TEST_P(HostileValues, PhysicalValuesWithEveryCountOfDecimals) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     if (!reference::kHasExtendedPrecision) {
         GTEST_SKIP() << "this compiler's long double can't hold the reference";
     }
@@ -148,6 +153,7 @@ TEST_P(HostileValues, PhysicalValuesWithEveryCountOfDecimals) {
 }
 
 TEST_P(HostileValues, WayBack) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     Seed seed(static_cast<unsigned>(Code()) + 1000);
     for (int round = 0; round < 6000; ++round) {
         const Item item{.sign = AnyOf(kSigns, seed),
@@ -178,6 +184,7 @@ TEST_P(HostileValues, WayBack) {
 }
 
 TEST_P(HostileValues, WayBackWithEveryCountOfDecimals) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     for (unsigned decimals = 0; decimals <= 255; ++decimals) {
         const Item item{.sign = 1,
                         .bits = 16,
@@ -202,6 +209,7 @@ TEST_P(HostileValues, WayBackWithEveryCountOfDecimals) {
 }
 
 TEST_P(HostileValues, BytesDisregardTheNumbers) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     const unsigned char bytes[] = {0xE9, 0x41};
     Seed seed(static_cast<unsigned>(Code()) + 2000);
     for (int round = 0; round < 500; ++round) {

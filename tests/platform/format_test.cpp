@@ -14,6 +14,7 @@
 
 #include "krm/platform/platform.h"
 #include "tests/support/c_locale.h"
+#include "tests/support/not_under.h"
 
 namespace {
 
@@ -237,6 +238,7 @@ TEST(FormatTest, MalformedFormatsEndQuietly) {
 }
 
 TEST(FormatTest, RandomFormatsWithoutArgumentsNeverCrash) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     std::mt19937 random(20260);
     // No letter here takes an argument.
     const std::string alphabet = "%%%%-+ #0123.hlzjtLqybvw!";
@@ -304,6 +306,7 @@ protected:
 };
 
 TEST_F(PrintfTest, Integers) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     for (int round = 0; round < 60'000; ++round) {
         const std::string beginning = Beginning(30);
         const char letter = "diuoxX"[Random(6)];
@@ -342,6 +345,7 @@ TEST_F(PrintfTest, Integers) {
 }
 
 TEST_F(PrintfTest, Reals) {
+    KRM_NOT_UNDER(Memcheck, "memcheck computes the processor's 80-bit numbers in 64 bits");
     const double specials[] = {0.0,
                                -0.0,
                                0.5,
@@ -399,10 +403,12 @@ TEST_F(PrintfTest, Reals) {
 }
 
 TEST_F(PrintfTest, LongDoublesOfADoublesPrecision) {
+    KRM_NOT_UNDER(Memcheck, "memcheck computes the processor's 80-bit numbers in 64 bits");
     ExpectAsPrintf("%Lf %Le %Lg", 1.5L, -2.25L, 1e10L);
 }
 
 TEST_F(PrintfTest, TextsCharactersAndPointers) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     const char* const texts[] = {"", "a", "abc", "100%s%d", "a longer text with blanks in it"};
     for (int round = 0; round < 5'000; ++round) {
         std::string format = "<%";
@@ -422,6 +428,7 @@ TEST_F(PrintfTest, TextsCharactersAndPointers) {
 }
 
 TEST_F(PrintfTest, AHundredKilobyteLine) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     const std::string large(100'000, 'u');
     ExpectAsPrintf("[%s] m_str=%s %d", large.c_str(), large.c_str(), 1);
     ExpectAsPrintf("%100000d|%-100000s|%.100000d|%.100000f", 1, "a", 2, 0.1);

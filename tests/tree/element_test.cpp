@@ -9,6 +9,7 @@
 #include "gtest/gtest.h"
 #include "krm/tree/element_group.h"
 #include "tests/support/failing_allocation.h"
+#include "tests/support/not_under.h"
 #include "tests/support/recording_error.h"
 #include "tests/support/small_stack.h"
 #include "tests/tree/own_nodes.h"
@@ -826,6 +827,7 @@ TEST(Element, ACopyOfAnEmptyOneStandsAlone) {
 constexpr int kMillion = 1'000'000;
 
 TEST(LargeTree, AMillionAttributes) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     RunOnSmallStack([] {
         NoLookup element("E");
         for (int i = 0; i < kMillion; ++i) {
@@ -842,6 +844,7 @@ TEST(LargeTree, AMillionAttributes) {
 }
 
 TEST(LargeTree, AMillionElementsInOneGroup) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     RunOnSmallStack([] {
         CKRMCElement element("E");
         CKRMCElementGroup* const group = element.CreateElementGroup(nullptr, "C");
@@ -855,6 +858,7 @@ TEST(LargeTree, AMillionElementsInOneGroup) {
 }
 
 TEST(LargeTree, AMillionGroups) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     RunOnSmallStack([] {
         NoLookup element("E");
         for (int i = 0; i < kMillion; ++i) {
@@ -867,6 +871,7 @@ TEST(LargeTree, AMillionGroups) {
 }
 
 TEST(LargeTree, RemovingTheFirstOfAMillion) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     RunOnSmallStack([] {
         Undestroyed<CKRMCElementGroup> group("C");
         for (int i = 0; i < kMillion; ++i) {
@@ -877,6 +882,7 @@ TEST(LargeTree, RemovingTheFirstOfAMillion) {
 }
 
 TEST(LargeTree, NestedAHundredThousandDeep) {
+    KRM_NOT_UNDER(Memcheck, "it would take hours at this size");
     constexpr int kDepth = 100'000;
     RunOnSmallStack([] {
         CKRMCElement root("E");
