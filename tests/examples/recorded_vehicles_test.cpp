@@ -1,4 +1,4 @@
-// Real answers of production vehicles. They are not part of this repository: the test reads them where they are.
+// Real answers of production vehicles; tests/data/obd/README.md says where they come from.
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -39,10 +39,7 @@ std::string Expected(const std::string& value) {
 }
 
 TEST(RecordedVehicles, EveryExchangeIsDecodedAndEveryValueMet) {
-    const std::filesystem::path folder = KRM_OBD_DATA_DIR;
-    if (!std::filesystem::exists(folder / "recorded.log")) {
-        GTEST_SKIP() << "the recorded answers are not there: " << folder;
-    }
+    const std::filesystem::path folder = KRM_TEST_DATA_DIR "/obd";
     const krm::test::SessionFolder files;
     const krm::test::SessionResult run =
         krm::test::RunSession({(folder / "recorded.log").string(), (folder / "items.json").string(), "--log",
