@@ -3,15 +3,18 @@ add_library(krm_options INTERFACE)
 target_compile_features(krm_options INTERFACE cxx_std_20)
 
 if(MSVC)
-    target_compile_options(krm_options INTERFACE /W4 /WX /permissive- /fp:precise /wd4251)
+    target_compile_options(krm_options INTERFACE /W4 /permissive- /fp:precise /wd4251)
 else()
-    target_compile_options(krm_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+    target_compile_options(krm_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         # A fused multiply-add would round once where the conversions round twice.
         -ffp-contract=off)
     if(CMAKE_SIZEOF_VOID_P EQUAL 4)
         # The x87 registers keep more digits than a double has; SSE rounds each step as 64-bit builds do.
         target_compile_options(krm_options INTERFACE -msse2 -mfpmath=sse)
     endif()
+endif()
+if(KRM_WERROR)
+    target_compile_options(krm_options INTERFACE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX,-Werror>)
 endif()
 
 set(KRM_SANITIZE OFF CACHE STRING

@@ -32,13 +32,21 @@ using krm_int64 = std::int64_t;
 static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 4 && CHAR_BIT == 8,
               "the interface is defined on 8-bit bytes and 32-bit numbers");
 
-// KRM_API marks a class or function that the library exports, KRM_PLATFORM_API one of the platform library.
+// KRM_API marks a class or function that the library exports, KRM_PLATFORM_API one of the platform library. Static
+// libraries (KRM_STATIC, which CMake's targets hand on) export and import nothing.
 //
 // Members of the list template are marked one by one (KRM_TEMPLATE_MEMBER), and only while a library is built: an
 // explicit instantiation exports just the members that carry a mark themselves, and a user who saw them as imported
 // could not instantiate a list of his own. KRM_TEMPLATE_CLASS is the same thing for ELF, where visibility belongs to the
 // class template; KRM_TEMPLATE_PRIVATE takes its inner workings out again.
-#if defined(_WIN32)
+#if defined(KRM_STATIC)
+#define KRM_API
+#define KRM_PLATFORM_API
+#define KRM_TEMPLATE_MEMBER
+#define KRM_TEMPLATE_INLINE inline
+#define KRM_TEMPLATE_CLASS
+#define KRM_TEMPLATE_PRIVATE
+#elif defined(_WIN32)
 #if defined(KRM_BUILDING_ADAPTATION_DATA)
 #define KRM_API __declspec(dllexport)
 #else

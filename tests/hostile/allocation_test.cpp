@@ -15,6 +15,7 @@
 #include "krm/tree/element_group.h"
 #include "tests/support/converters.h"
 #include "tests/support/failing_allocation.h"
+#include "tests/support/log_sink.h"
 
 namespace krm::test {
 namespace {
@@ -160,10 +161,10 @@ TEST_F(OutOfMemory, RecordsAndMessages) {
     message.Data.AddTail(code);
     EXPECT_EQ(FailEach([&] { const CKRMCCommandWordsData copy(words); }), 1);
     EXPECT_GE(FailEach([&] { const CKRMCGetDTCCmdAdaptDataRcv copy(message); }), 2);
-    KRMC_ER_SetOperationLogSink(&IgnoreLine, nullptr);
+    SetLogSink(&IgnoreLine, nullptr);
     EXPECT_GT(FailEach([&] { words.ErrWriteOperationLogStructure("%s", kLong); }), 2);
     EXPECT_GT(FailEach([&] { message.ErrWriteOperationLog(); }), 2);
-    KRMC_ER_SetOperationLogSink(nullptr, nullptr);
+    SetLogSink(nullptr, nullptr);
     EXPECT_EQ(message.Data.GetCount(), 2);
     EXPECT_EQ(FailEach([&] { message.Clear(); }), 0);
     EXPECT_EQ(FailEach([&] { words.Clear(); }), 0);

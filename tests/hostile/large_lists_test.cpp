@@ -7,6 +7,7 @@
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/words.h"
 #include "tests/support/failing_allocation.h"
+#include "tests/support/log_sink.h"
 #include "tests/support/not_under.h"
 
 namespace krm::test {
@@ -29,8 +30,8 @@ void ExpectBlocks(long before, long expected) {
 /// Counts lines and bytes instead of keeping them, and keeps the last line.
 class CountingLog {
 public:
-    CountingLog() { KRMC_ER_SetOperationLogSink(&Write, this); }
-    ~CountingLog() { KRMC_ER_SetOperationLogSink(nullptr, nullptr); }
+    CountingLog() { SetLogSink(&Write, this); }
+    ~CountingLog() { SetLogSink(nullptr, nullptr); }
     CountingLog(const CountingLog&) = delete;
     CountingLog& operator=(const CountingLog&) = delete;
 

@@ -18,6 +18,7 @@
 #include "tests/messages/diag/trouble_codes_fields.h"
 #include "tests/support/converters.h"
 #include "tests/support/fields.h"
+#include "tests/support/log_sink.h"
 
 namespace krm::test {
 namespace {
@@ -28,8 +29,8 @@ constexpr unsigned kRounds = 5;
 /// Keeps the lines of each thread apart, with a lock of its own as a sink must have.
 class LogByThread {
 public:
-    LogByThread() { KRMC_ER_SetOperationLogSink(&Write, this); }
-    ~LogByThread() { KRMC_ER_SetOperationLogSink(nullptr, nullptr); }
+    LogByThread() { SetLogSink(&Write, this); }
+    ~LogByThread() { SetLogSink(nullptr, nullptr); }
     LogByThread(const LogByThread&) = delete;
     LogByThread& operator=(const LogByThread&) = delete;
 

@@ -1,4 +1,5 @@
 # Compiles SOURCE with the command behind "--" and compares what happens with what the source's first line announces.
+# With MOST_ERRORS the compiler may report no more errors than that.
 set(_command)
 set(_behind FALSE)
 math(EXPR _last "${CMAKE_ARGC} - 1")
@@ -28,6 +29,11 @@ elseif(_announced MATCHES "^// error: (.+)$")
     string(FIND "${_output}" "${_text}" _found)
     if(_found EQUAL -1)
         message(FATAL_ERROR "${SOURCE} is refused, but not for \"${_text}\":\n${_output}")
+    endif()
+    string(REGEX MATCHALL "error( [A-Z][0-9]+)?:" _errors "${_output}")
+    list(LENGTH _errors _errors)
+    if(DEFINED MOST_ERRORS AND _errors GREATER MOST_ERRORS)
+        message(FATAL_ERROR "${SOURCE} is refused with ${_errors} errors, not at most ${MOST_ERRORS}:\n${_output}")
     endif()
 else()
     message(FATAL_ERROR "${SOURCE}: the first line announces nothing: ${_announced}")

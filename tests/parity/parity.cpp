@@ -9,6 +9,7 @@
 #include "tests/messages/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/fields.h"
+#include "tests/support/log_sink.h"
 
 namespace {
 
@@ -142,7 +143,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: %s OUTPUT\n", argv[0]);
         return 2;
     }
-    KRMC_ER_SetOperationLogSink(&WriteLogLine, nullptr);
+    krm::test::SetLogSink(&WriteLogLine, nullptr);
     WriteConversions();
     std::uint32_t seed = 1;
 #define KRM_WRITE(Class, ...) WriteObject<Class>(#Class, seed++);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "krm/platform/platform.h"
+#include "tests/support/log_sink.h"
 
 namespace krm::test {
 
@@ -20,8 +21,8 @@ public:
     };
 
     /// Each line is answered with `result`.
-    explicit LogCapture(krm_long result = 0) : m_result(result) { KRMC_ER_SetOperationLogSink(&Write, this); }
-    ~LogCapture() { KRMC_ER_SetOperationLogSink(nullptr, nullptr); }
+    explicit LogCapture(krm_long result = 0) : m_result(result) { SetLogSink(&Write, this); }
+    ~LogCapture() { SetLogSink(nullptr, nullptr); }
     LogCapture(const LogCapture&) = delete;
     LogCapture& operator=(const LogCapture&) = delete;
 
