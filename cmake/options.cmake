@@ -8,8 +8,9 @@ else()
     target_compile_options(krm_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         # A fused multiply-add would round once where the conversions round twice.
         -ffp-contract=off)
-    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-        # The x87 registers keep more digits than a double has; SSE rounds each step as 64-bit builds do.
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "^(i.86|x86|x86_64|AMD64)$")
+        # 32-bit x86, also on a 64-bit machine: the x87 registers keep more digits than a double has; SSE rounds each step
+        # as 64-bit builds do.
         target_compile_options(krm_options INTERFACE -msse2 -mfpmath=sse)
     endif()
 endif()

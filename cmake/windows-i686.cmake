@@ -1,30 +1,4 @@
-# Toolchain: 32-bit Windows with MinGW-w64 (Debian's g++-mingw-w64-i686-posix). Tests run in wine where
-# KRM_WINE names a command that takes a Windows program.
-set(CMAKE_SYSTEM_NAME Windows)
-set(CMAKE_SYSTEM_PROCESSOR i686)
-set(CMAKE_C_COMPILER i686-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER i686-w64-mingw32-g++-posix)
-set(CMAKE_RC_COMPILER i686-w64-mingw32-windres)
-set(CMAKE_FIND_ROOT_PATH /usr/i686-w64-mingw32)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-# Headers alone, without a library for one target, are found on the host too.
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
-if(DEFINED ENV{KRM_WINE})
-    set(KRM_WINE $ENV{KRM_WINE} CACHE STRING "Command that runs a Windows program" FORCE)
-endif()
-if(KRM_WINE)
-    set(CMAKE_CROSSCOMPILING_EMULATOR ${KRM_WINE})
-endif()
-
-# The compiler's runtime, which programs need beside them.
-foreach(_krm_dll libstdc++-6.dll libgcc_s_dw2-1.dll)
-    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${_krm_dll}
-        OUTPUT_VARIABLE _krm_dll_path OUTPUT_STRIP_TRAILING_WHITESPACE)
-    list(APPEND KRM_RUNTIME_DLLS ${_krm_dll_path})
-endforeach()
-list(APPEND KRM_RUNTIME_DLLS /usr/i686-w64-mingw32/lib/libwinpthread-1.dll)
-if(CMAKE_BINARY_DIR AND NOT CMAKE_BINARY_DIR MATCHES "CMakeFiles")
-    file(COPY ${KRM_RUNTIME_DLLS} DESTINATION ${CMAKE_BINARY_DIR}/bin)
-endif()
+# Toolchain: 32-bit Windows (Debian's g++-mingw-w64-i686-posix).
+set(_krm_machine i686)
+set(_krm_unwinder dw2)
+include(${CMAKE_CURRENT_LIST_DIR}/windows-mingw.cmake)
