@@ -54,20 +54,23 @@ public:
     /// ConvCommandDispVariableData.
     virtual bool IsBinaryDataType();
 
-    /// Takes `dataLen` bytes as text: raw and physical value of `*record` become the first byte, its text the first 255
-    /// bytes up to a NUL. The words ID and the numeric arguments play no part.
-    virtual krm_ulong ConvCommandDispData(CKRMCCommandDispData* record, const unsigned char* data, krm_ulong dataLen,
-                                          unsigned char uchSigned, unsigned short ushBitLength, krm_long lMul,
-                                          krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount,
-                                          krm_ulong ulMax, krm_ulong ulMin,
-                                          CKRMList<CKRMCCommandDispData>* patternList);
-    /// Fills raw value, physical value, text and words ID of `*record` by ValueConversion and StringConversion. When the
-    /// former fails the record keeps the raw value and nothing else is done. `m_strData` and `m_dData` are not touched.
-    virtual krm_ulong ConvCommandDispData(CKRMCCommandDispData* record, krm_ulong ulRawData, unsigned char uchSigned,
-                                          unsigned short ushBitLength, krm_long lMul, krm_long lDiv, krm_long lOffset,
-                                          unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin,
-                                          CKRMList<CKRMCCommandDispData>* patternList, CKRMString* defaultPattern,
-                                          krm_ulong ulDefaultStringId);
+    KRM_OVERLOADS_2(
+        /// Takes `dataLen` bytes as text: raw and physical value of `*record` become the first byte, its text the first
+        /// 255 bytes up to a NUL. The words ID and the numeric arguments play no part.
+        virtual krm_ulong ConvCommandDispData(CKRMCCommandDispData* record, const unsigned char* data,
+                                              krm_ulong dataLen, unsigned char uchSigned, unsigned short ushBitLength,
+                                              krm_long lMul, krm_long lDiv, krm_long lOffset,
+                                              unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin,
+                                              CKRMList<CKRMCCommandDispData>* patternList),
+        /// Fills raw value, physical value, text and words ID of `*record` by ValueConversion and StringConversion.
+        /// When the former fails the record keeps the raw value and nothing else is done. `m_strData` and `m_dData` are
+        /// not touched.
+        virtual krm_ulong ConvCommandDispData(CKRMCCommandDispData* record, krm_ulong ulRawData,
+                                              unsigned char uchSigned, unsigned short ushBitLength, krm_long lMul,
+                                              krm_long lDiv, krm_long lOffset, unsigned char uchDecPntCount,
+                                              krm_ulong ulMax, krm_ulong ulMin,
+                                              CKRMList<CKRMCCommandDispData>* patternList, CKRMString* defaultPattern,
+                                              krm_ulong ulDefaultStringId));
     /// The same by StringVariableConversion, for items whose patterns are strings of bytes.
     virtual krm_ulong ConvCommandDispVariableData(CKRMCCommandDispData* record, krm_ulong ulRawData,
                                                   unsigned char uchSigned, unsigned short ushBitLength, krm_long lMul,
@@ -76,16 +79,18 @@ public:
                                                   CKRMList<CKRMCCommandDispVariableData>* patternList,
                                                   CKRMString* defaultPattern, krm_ulong ulDefaultStringId);
 
-    /// Physical value to raw value: clamps to `dMin` ... `dMax`, undoes the scaling, rounds half away from zero and clamps
-    /// to what the bit length holds under the sign code. A negative value of two's complement is sign-extended to 32
-    /// bits; one of sign and magnitude loses its sign.
-    virtual krm_ulong ConvLogicalValue(krm_ulong* result, double value, unsigned char uchSigned,
-                                       unsigned short ushBitLength, krm_long lMul, krm_long lDiv, krm_long lOffset,
-                                       unsigned char uchDecPntCount, double dMax, double dMin);
-    /// Physical value to raw value: undoes the scaling and truncates; at or beyond a limit gives just that raw limit.
-    virtual krm_ulong ConvLogicalValue(krm_ulong* result, double value, unsigned char uchSigned,
-                                       unsigned short ushBitLength, krm_long lMul, krm_long lDiv, krm_long lOffset,
-                                       unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin);
+    KRM_OVERLOADS_2(
+        /// Physical value to raw value: clamps to `dMin` ... `dMax`, undoes the scaling, rounds half away from zero and
+        /// clamps to what the bit length holds under the sign code. A negative value of two's complement is
+        /// sign-extended to 32 bits; one of sign and magnitude loses its sign.
+        virtual krm_ulong ConvLogicalValue(krm_ulong* result, double value, unsigned char uchSigned,
+                                           unsigned short ushBitLength, krm_long lMul, krm_long lDiv, krm_long lOffset,
+                                           unsigned char uchDecPntCount, double dMax, double dMin),
+        /// Physical value to raw value: undoes the scaling and truncates; at or beyond a limit gives just that raw
+        /// limit.
+        virtual krm_ulong ConvLogicalValue(krm_ulong* result, double value, unsigned char uchSigned,
+                                           unsigned short ushBitLength, krm_long lMul, krm_long lDiv, krm_long lOffset,
+                                           unsigned char uchDecPntCount, krm_ulong ulMax, krm_ulong ulMin));
 
     /// Raw value to physical value. The base: PhysicalConversion.
     virtual krm_ulong ValueConversion(double* result, krm_ulong ulRawData, unsigned char uchSigned,

@@ -82,4 +82,27 @@ static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 
 #define KRM_PRINTF_LIKE(formatPosition, firstArgument)
 #endif
 
+// Declares the virtual overloads of one name in the order of their slots, which is part of the interface. Compilers give
+// slots in the order of declaration, but MSVC, and whoever follows it, takes the overloads of a name from the last to
+// the first; so there they are declared the other way round.
+#if defined(_MSC_VER)
+#define KRM_OVERLOADS_2(first, second) \
+    second;                            \
+    first
+#define KRM_OVERLOADS_4(first, second, third, fourth) \
+    fourth;                                           \
+    third;                                            \
+    second;                                           \
+    first
+#else
+#define KRM_OVERLOADS_2(first, second) \
+    first;                             \
+    second
+#define KRM_OVERLOADS_4(first, second, third, fourth) \
+    first;                                            \
+    second;                                           \
+    third;                                            \
+    fourth
+#endif
+
 #endif  // KRM_CORE_TYPES_H_

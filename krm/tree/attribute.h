@@ -48,10 +48,10 @@ public:
     virtual bool CompareValue(CKRMError* error, CKRMCAttribute* other);
     // Each sets value and type. False when memory is short (kOutOfMemory), which leaves the attribute empty, or for a
     // null `text` (kNullArgument), which leaves it as it was. A text is copied; it may be this attribute's own.
-    virtual bool SetValue(CKRMError* error, krm_ulong value);   ///< to an unsigned number
-    virtual bool SetValue(CKRMError* error, krm_long value);    ///< to a signed number
-    virtual bool SetValue(CKRMError* error, double value);      ///< to a double
-    virtual bool SetValue(CKRMError* error, const char* text);  ///< to a copy of the text
+    KRM_OVERLOADS_4(virtual bool SetValue(CKRMError* error, krm_ulong value),    ///< to an unsigned number
+                    virtual bool SetValue(CKRMError* error, krm_long value),     ///< to a signed number
+                    virtual bool SetValue(CKRMError* error, double value),       ///< to a double
+                    virtual bool SetValue(CKRMError* error, const char* text));  ///< to a copy of the text
 
     /// The type of the value: krm::tree::kStringValue and so on, kEmptyValue while there is none.
     krm_ulong GetValueType() const { return m_ulValueType; }
