@@ -1,0 +1,72 @@
+# What every verb of ./dev starts with: `. "$(dirname "$0")/common.sh"`, from the checkout's root on.
+# shellcheck shell=bash
+# shellcheck disable=SC2034
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+# Outside the checkout, so that a clean checkout needn't make it again.
+cache=${XDG_CACHE_HOME:-$HOME/.cache}/krm
+
+build_tools=(cmake ninja-build g++ make)
+test_tools=(googletest nlohmann-json3-dev python3-minimal)
+
+say() { printf '== %s\n' "$*"; }
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# The verb's own lines of help, for who used it wrongly.
+usage() {
+    sed -n 's/^#: //p' "tools/dev/$(basename "$0")" >&2
+    exit 2
+}
+
+# Installs those of the Debian packages that are not there yet.
+need() {
+    local package missing=()
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    say "installing ${missing[*]}"
+    as_root apt-get update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET [TARGET...]: configures and builds.
+build() {
+    local preset=$1
+    shift
+    say "building $preset"
+    cmake --preset "$preset" >/dev/null
+    if [ $# -gt 0 ]; then
+        cmake --build --preset "$preset" --target "$@"
+    else
+        cmake --build --preset "$preset"
+    fi
+}
+
+run_tests() {
+    say "testing $1"
+    ctest --preset "$1"
+}
+
+# write_table NAME TABLE DOCUMENT: puts the file TABLE between the document's comments "NAME:" and "end of NAME".
+write_table() {
+    sed -i -e "/^<!-- $1:/,/^<!-- end of $1/{//!d}" -e "/^<!-- $1:/r $2" "$3"
+    say "written to $3"
+}
+
+# i386_root FOLDER PACKAGE[,PACKAGE...]: makes a small i386 Debian with these packages, if it isn't there yet.
+i386_root() {
+    local root=$1 packages=$2 mirror
+    [ ! -e "$root/.complete" ] || return 0
+    need debootstrap
+    say "making an i386 root with $packages in $root"
+    # shellcheck disable=SC2016
+    mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Codename: bookworm' | head -n 1)
+    mkdir -p "$(dirname "$root")"
+    as_root rm -rf "$root"
+    as_root debootstrap --arch=i386 --variant=minbase --include="$packages" bookworm "$root" "$mirror" >/dev/null
+    as_root touch "$root/.complete"
+}

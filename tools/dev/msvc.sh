@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+#: ./dev msvc                    prove slots and layouts on MSVC, with Clang instead of it
+. "$(dirname "$0")/common.sh"
+
+need clang python3-minimal
+say "compiling the public headers for MSVC's targets"
+python3 tests/msvc/check.py clang++
