@@ -10,15 +10,26 @@ namespace krm::test {
 /// The documented slot of a virtual operation: its place behind the destructor, which is slot 0 and counts as one; -2 for
 /// an operation that isn't virtual.
 ///
-/// GCC's and Clang's pointer to a virtual member function holds one more than the offset, in bytes, of its entry in the
-/// virtual table. Their virtual destructors take two entries.
+/// GCC's and Clang's pointer to a member function is two words. The first has the offset, in bytes, of its entry in the
+/// virtual table, plus one to mark it as no function's address; on ARM, where that one belongs to the address, the second
+/// word has the mark. Their virtual destructors take two entries.
 template <class PointerToMember>
 int SlotOf(PointerToMember operation) {
-    std::ptrdiff_t word = 0;
-    static_assert(sizeof operation >= sizeof word);
-    std::memcpy(&word, &operation, sizeof word);
+    struct {
+        std::ptrdiff_t entry;
+        std::ptrdiff_t adjustment;
+    } words{};
+    static_assert(sizeof operation == sizeof words);
+    std::memcpy(&words, &operation, sizeof words);
     const auto size = static_cast<std::ptrdiff_t>(sizeof(void*));
-    return word % size == 1 ? static_cast<int>((word - 1) / size) - 1 : -2;
+#if defined(__arm__) || defined(__aarch64__)
+    const bool isVirtual = words.adjustment % 2 == 1;
+    const std::ptrdiff_t offset = words.entry;
+#else
+    const bool isVirtual = words.entry % size == 1;
+    const std::ptrdiff_t offset = words.entry - 1;
+#endif
+    return isVirtual ? static_cast<int>(offset / size) - 1 : -2;
 }
 
 }  // namespace krm::test
