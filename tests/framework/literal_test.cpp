@@ -40,12 +40,12 @@ TEST(Joined, PutsTextsOneBehindTheOther) {
     static_assert(std::is_same_v<decltype(kOne), const Literal<7>>);
 }
 
-TEST(Joined, EmptyTextsAndNoneAddNothing) {
+TEST(Joined, EmptyTextsAddNothing) {
     static constexpr auto kEmptyOnes = Joined<"", "a", "", "b", "">();
     EXPECT_STREQ(kEmptyOnes.Text(), "ab");
-    static constexpr auto kNone = Joined<>();
-    EXPECT_STREQ(kNone.Text(), "");
-    EXPECT_EQ(sizeof kNone, 1U);
+    static constexpr auto kNothing = Joined<"", "">();
+    EXPECT_STREQ(kNothing.Text(), "");
+    EXPECT_EQ(sizeof kNothing, 1U);
 }
 
 }  // namespace
