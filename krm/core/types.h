@@ -11,6 +11,7 @@
 #include <krm_needs_C++20>
 #endif
 
+#include <cinttypes>
 #include <climits>
 #include <cstdint>
 
@@ -28,6 +29,21 @@ using krm_long = std::int32_t;
 
 /// Signed 64-bit integer: the result of sign handling in the converters.
 using krm_int64 = std::int64_t;
+
+// What printf's conversions need for a krm_ulong (u, X, x) or krm_long (d), which differ in type from platform to platform:
+//
+//     std::printf("ECU %" KRM_PRIu ", %08" KRM_PRIX "\n", ecu.m_ulEcuId, ecu.m_ulEcuId);
+#if ULONG_MAX == 0xFFFFFFFFUL
+#define KRM_PRIu "lu"
+#define KRM_PRId "ld"
+#define KRM_PRIX "lX"
+#define KRM_PRIx "lx"
+#else
+#define KRM_PRIu PRIu32
+#define KRM_PRId PRId32
+#define KRM_PRIX PRIX32
+#define KRM_PRIx PRIx32
+#endif
 
 static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 4 && CHAR_BIT == 8,
               "the interface is defined on 8-bit bytes and 32-bit numbers");
