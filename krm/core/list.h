@@ -59,6 +59,12 @@ struct ListNode {
 ///
 ///     for (CKRMCCommandEcuData& ecu : group.m_cEcuList) ...
 ///
+/// Moving a list copies it: the interface fixes its members, among which there is no move, so std::move leaves the source
+/// whole and costs what a copy does. Fill a list where it shall stay, or hand on a reference to it.
+///
+/// krm/core/list_tools.h has what stands beside it: size, filling from a range or braces, const access by index,
+/// comparison.
+///
 /// One list is used by one thread at a time.
 template <class T>
 class KRM_TEMPLATE_CLASS CKRMList {
@@ -133,20 +139,26 @@ private:
     Node* m_tail;
 };
 
-/// Forward iterator of range-for; `Element` is `T` or `const T`. Valid as long as the position it stands on.
+/// Bidirectional iterator, for range-for and algorithms; `Element` is `T` or `const T`. Valid as long as the position it
+/// stands on, and at the end as long as the list. Of two iterators of one list the positions compare.
 template <class Element>
 class CKRMListIterator {
 public:
-    using iterator_category = std::forward_iterator_tag;  ///< what algorithms may count on
-    using value_type = std::remove_const_t<Element>;      ///< the list's element type
-    using difference_type = std::ptrdiff_t;               ///< of two iterators; asked for by algorithms
-    using pointer = Element*;                             ///< what `->` gives
-    using reference = Element&;                           ///< what `*` gives
+    using iterator_category = std::bidirectional_iterator_tag;  ///< what algorithms may count on
+    using value_type = std::remove_const_t<Element>;            ///< the list's element type
+    using difference_type = std::ptrdiff_t;                     ///< of two iterators; asked for by algorithms
+    using pointer = Element*;                                   ///< what `->` gives
+    using reference = Element&;                                 ///< what `*` gives
 
     /// The end of every list.
     CKRMListIterator() = default;
-    /// At `position`; null is the end.
-    explicit CKRMListIterator(_SKRMPOSITION* position) : m_position(position) {}
+    /// At `position` of `list`; null is the end. Without its list it can't step back from there.
+    explicit CKRMListIterator(_SKRMPOSITION* position, const CKRMList<value_type>* list = nullptr)
+        : m_position(position), m_list(list) {}
+    /// An iterator to const elements from any.
+    operator CKRMListIterator<const Element>() const requires(!std::is_const_v<Element>) {
+        return CKRMListIterator<const Element>(m_position, m_list);
+    }
 
     /// The element. REQUIRES: this is not the end.
     reference operator*() const { return Node::Of(m_position)->element; }
@@ -163,6 +175,17 @@ public:
         ++*this;
         return before;
     }
+    /// Moves back to the element before; from the end to the last. REQUIRES: there is one.
+    CKRMListIterator& operator--() {
+        m_position = m_position == nullptr ? m_list->GetTailPosition() : Node::ToPosition(Node::Of(m_position)->prev);
+        return *this;
+    }
+    /// The same; returns where it stood.
+    CKRMListIterator operator--(int) {
+        CKRMListIterator before = *this;
+        --*this;
+        return before;
+    }
     /// Whether both stand on the same element, or both at the end.
     friend bool operator==(CKRMListIterator left, CKRMListIterator right) {
         return left.m_position == right.m_position;
@@ -172,6 +195,7 @@ private:
     using Node = krm::ListNode<value_type>;
 
     _SKRMPOSITION* m_position = nullptr;
+    const CKRMList<value_type>* m_list = nullptr;
 };
 
 // Free functions, because the list's member set is part of the interface.
@@ -179,22 +203,22 @@ private:
 /// The first element, for range-for; equal to end() when the list is empty.
 template <class T>
 CKRMListIterator<T> begin(CKRMList<T>& list) {
-    return CKRMListIterator<T>(list.GetHeadPosition());
+    return CKRMListIterator<T>(list.GetHeadPosition(), &list);
 }
 /// Behind the last element, for range-for.
 template <class T>
-CKRMListIterator<T> end(CKRMList<T>&) {
-    return CKRMListIterator<T>();
+CKRMListIterator<T> end(CKRMList<T>& list) {
+    return CKRMListIterator<T>(nullptr, &list);
 }
 /// The first element of a const list.
 template <class T>
 CKRMListIterator<const T> begin(const CKRMList<T>& list) {
-    return CKRMListIterator<const T>(list.GetHeadPosition());
+    return CKRMListIterator<const T>(list.GetHeadPosition(), &list);
 }
 /// Behind the last element of a const list.
 template <class T>
-CKRMListIterator<const T> end(const CKRMList<T>&) {
-    return CKRMListIterator<const T>();
+CKRMListIterator<const T> end(const CKRMList<T>& list) {
+    return CKRMListIterator<const T>(nullptr, &list);
 }
 
 // Members are defined outside the class: only so does an explicit instantiation export them from a DLL. The short
