@@ -10,6 +10,18 @@
 #include "krm/framework/literal.h"
 #include "krm/platform/platform.h"
 
+// Whether krm::MessageAs makes sure, at the price of run-time type information, that a message is what it is asked for.
+#if !defined(NDEBUG) && (defined(__cpp_rtti) || defined(_CPPRTTI))
+#define KRM_CHECKS_MESSAGE_AS
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <typeinfo>
+#if defined(__GNUC__)
+#include <cxxabi.h>
+#endif
+#endif
+
 namespace krm {
 
 class LoggedMessage;
@@ -293,19 +305,52 @@ protected:
     MessageOf() { this->SetCommandID(kCommandId); }
 };
 
+// The two builds of MessageAs are two functions, each with a name of its own: parts of a program that are built for debugging
+// and parts that aren't can be linked together, and with any build of the library.
+#ifdef KRM_CHECKS_MESSAGE_AS
+inline namespace checked {
+
+/// The class name as it is written in the source.
+inline std::string ReadableName(const std::type_info& type) {
+#if defined(__GNUC__)
+    char* const text = abi::__cxa_demangle(type.name(), nullptr, nullptr, nullptr);
+    const std::string name = text != nullptr ? text : type.name();
+    std::free(text);
+    return name;
+#else
+    return type.name();
+#endif
+}
+
+[[noreturn]] inline void StopAtAnotherClass(const std::type_info& asked, const std::type_info& actual) {
+    std::fprintf(stderr, "krm::MessageAs: asked for %s, but the message is %s\n", ReadableName(asked).c_str(),
+                 ReadableName(actual).c_str());
+    std::abort();
+}
+
+#else
+inline namespace unchecked {
+#endif
+
 /// `message` as the class that the caller expects, or null where it is null or carries another type or ID. Needs no
 /// run-time type information.
 ///
 ///     if (auto* answer = krm::MessageAs<CKRMCGetDTCCmdAdaptDataRcv>(message)) ...
 ///
 /// A request and its answer carry the same type and ID: whether requests or answers arrive is for the caller to know. He
-/// must not ask for a request's class where answers arrive, nor the other way round.
+/// must not ask for a request's class where answers arrive, nor the other way round. Where he does, a debug build (NDEBUG
+/// not defined, run-time type information on) stops the program and names both classes.
 template <class Message>
 const Message* MessageAs(const CKRMBaseAdaptationData* message) {
     if (message == nullptr || message->GetCommandType() != Message::kCommandType ||
         message->GetCommandID() != Message::kCommandId) {
         return nullptr;
     }
+#ifdef KRM_CHECKS_MESSAGE_AS
+    if (dynamic_cast<const Message*>(message) == nullptr) {
+        StopAtAnotherClass(typeid(Message), typeid(*message));
+    }
+#endif
     return static_cast<const Message*>(message);
 }
 /// The same for a message that may be changed.
@@ -313,6 +358,8 @@ template <class Message>
 Message* MessageAs(CKRMBaseAdaptationData* message) {
     return const_cast<Message*>(MessageAs<Message>(static_cast<const CKRMBaseAdaptationData*>(message)));
 }
+
+}  // namespace
 
 }  // namespace krm
 
