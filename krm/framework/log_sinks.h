@@ -118,15 +118,17 @@ inline std::string TimeStamp(std::chrono::system_clock::time_point time) {
 }
 
 /// Writes for people: before every line the time in UTC and the number of its thread, counted from 1 in the order in which
-/// threads first write; before the lines of every message a heading with its command; line breaks within a line escaped.
+/// threads first write; before the lines of every message a heading; line breaks within a line escaped.
 ///
-///     2024-02-29T23:59:59.999Z 1 == GetDTC (type 1, ID 2)
+///     2024-02-29T23:59:59.999Z 1 == GetDTC request (type 1, ID 2)
 ///     2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1
 ///     2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2
+///     2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016
 ///
-/// A message begins with its type and ID; so the line of the type is written when the next one of its thread comes, or
-/// when the sink dies. Lines of several threads mix; the thread's number tells them apart. The stream must live longer; nobody
-/// else may write to it meanwhile.
+/// A message begins with its type and ID, and the third line of every diagnostic command tells the direction; headings of the
+/// other families are without. So the first lines are held until the next one of their thread comes, or the sink dies.
+/// Lines of several threads mix; the thread's number tells them apart. The stream must live longer; nobody else may write to
+/// it meanwhile.
 class HeadedLog {
 public:
     using Clock = std::chrono::system_clock::time_point (*)();
@@ -136,7 +138,7 @@ public:
         : m_stream(stream), m_now(now) {}
     ~HeadedLog() {
         for (auto& [id, thread] : m_threads) {
-            WriteHeld(thread);
+            WriteHeld(thread, "");
         }
     }
     HeadedLog(const HeadedLog&) = delete;
@@ -147,32 +149,55 @@ public:
         const std::lock_guard<std::mutex> lock(m_mutex);
         Thread& thread = m_threads.try_emplace(std::this_thread::get_id(), m_threads.size() + 1).first->second;
         const std::string start = TimeStamp(m_now()) + ' ' + std::to_string(thread.number) + ' ';
-        krm_ulong id = 0;
-        if (!thread.held.empty() && ReadNumber(line, "m_dwCommandID=", id)) {
-            m_stream << start << "== " << Heading(thread.type, id) << '\n';
-        }
-        WriteHeld(thread);
         const std::string text = start + EscapeLineBreaks(line) + '\n';
-        if (ReadNumber(line, "m_dwCommandType=", thread.type)) {
-            thread.held = text;
+        if (thread.state == State::AwaitsId && ReadNumber(line, "m_dwCommandID=", thread.id)) {
+            thread.state = State::AwaitsDirection;
+            thread.headingStart = start;
+            thread.held += text;
+            if (thread.type != static_cast<krm_ulong>(CommandFamily::Diagnostic)) {
+                WriteHeld(thread, "");
+            }
         } else {
-            m_stream << text;
+            WriteHeld(thread, DirectionIn(line));
+            if (ReadNumber(line, "m_dwCommandType=", thread.type)) {
+                thread.state = State::AwaitsId;
+                thread.held = text;
+            } else {
+                m_stream << text;
+            }
         }
         return m_stream.good() ? 0 : 1;
     }
 
 private:
+    enum class State { Within, AwaitsId, AwaitsDirection };
     struct Thread {
         explicit Thread(std::size_t itsNumber) : number(itsNumber) {}
 
         std::size_t number;
-        std::string held;    ///< the line of a message's type, while its ID isn't known
-        krm_ulong type = 0;  ///< that type
+        State state = State::Within;
+        std::string held;  ///< a message's first lines
+        krm_ulong type = 0;
+        krm_ulong id = 0;
+        std::string headingStart;
     };
 
-    void WriteHeld(Thread& thread) {
+    void WriteHeld(Thread& thread, std::string_view direction) {
+        if (thread.state == State::AwaitsDirection) {
+            const Command* const command = FindCommand(thread.type, thread.id);
+            m_stream << thread.headingStart << "== " << (command != nullptr ? command->name : "unknown command")
+                     << direction << " (type " << std::to_string(thread.type) << ", ID " << std::to_string(thread.id)
+                     << ")\n";
+        }
         m_stream << thread.held;
         thread.held.clear();
+        thread.state = State::Within;
+    }
+
+    static std::string_view DirectionIn(std::string_view line) {
+        return line.starts_with("[CKRMCBaseCmdAdaptDataSnd::")   ? " request"
+               : line.starts_with("[CKRMCBaseCmdAdaptDataRcv::") ? " answer"
+                                                                 : "";
     }
 
     /// Whether `line` is a family base's for `name`; then its value, which the log has as a signed number.
@@ -191,12 +216,6 @@ private:
         const auto result = std::from_chars(rest.data(), rest.data() + rest.size(), number);
         value = static_cast<krm_ulong>(number);
         return result.ec == std::errc() && result.ptr == rest.data() + rest.size();
-    }
-
-    static std::string Heading(krm_ulong type, krm_ulong id) {
-        const Command* const command = FindCommand(type, id);
-        return std::string(command != nullptr ? command->name : "unknown command") + " (type " + std::to_string(type) +
-               ", ID " + std::to_string(id) + ")";
     }
 
     std::mutex m_mutex;

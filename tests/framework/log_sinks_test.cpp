@@ -100,13 +100,13 @@ TEST(HeadedLogTest, WritesTimeThreadAndAHeadingPerMessage) {
     answer.m_strVinCode = "two\r\nlines\\";
     answer.ErrWriteOperationLog();
     EXPECT_EQ(stream.str(),
-              "2024-02-29T23:59:59.999Z 1 == GetDTC (type 1, ID 2)\n"
+              "2024-02-29T23:59:59.999Z 1 == GetDTC request (type 1, ID 2)\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=2016\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCGetDTCCmdAdaptDataSnd::ErrWriteOperationLog] m_uchPhaseType=0\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCGetDTCCmdAdaptDataSnd::ErrWriteOperationLog] m_uchGetFFDType=0\n"
-              "2024-02-29T23:59:59.999Z 1 == GetVinCode (type 1, ID 79)\n"
+              "2024-02-29T23:59:59.999Z 1 == GetVinCode answer (type 1, ID 79)\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=79\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0\n"
@@ -150,6 +150,26 @@ TEST(HeadedLogTest, LosesNoLineOfATypeWithoutAnId) {
     }
     EXPECT_EQ(stream.str(),
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1\n");
+}
+
+TEST(HeadedLogTest, AHeadingWithoutDirectionWhereNoLineTellsIt) {
+    std::ostringstream stream;
+    {
+        krm::HeadedLog log(stream, &LastMomentOfALeapDay);
+        const krm::ScopedLogSink scope(log);
+        CKRMCBaseCmdAdaptData base(2);
+        base.ErrWriteOperationLog();
+        EXPECT_EQ(stream.str(), "");  // still waiting for the line that tells
+        CKRMCGetUnitSettingGroupListUccAdaptDataSnd request;
+        request.ErrWriteOperationLog();
+    }
+    EXPECT_EQ(stream.str(),
+              "2024-02-29T23:59:59.999Z 1 == GetDTC (type 1, ID 2)\n"
+              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1\n"
+              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=2\n"
+              "2024-02-29T23:59:59.999Z 1 == GetUnitSettingGroupList (type 10, ID 4)\n"
+              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10\n"
+              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=4\n");
 }
 
 TEST(HeadedLogTest, NumbersThreadsAsTheyComeAndHeadsEachOnesMessages) {
