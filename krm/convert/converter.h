@@ -6,6 +6,8 @@
 //
 // This header has the base with its general rules and the factory; krm/convert/conversion_types.h lists the conversion
 // types, and krm/convert/specialised.h has the classes for special signals, which a caller rarely names.
+// krm/convert/signal.h takes a record's rule instead of all these arguments, and finds the raw value of every type that
+// has an inverse.
 #ifndef KRM_CONVERT_CONVERTER_H_
 #define KRM_CONVERT_CONVERTER_H_
 
@@ -82,7 +84,8 @@ public:
     KRM_OVERLOADS_2(
         /// Physical value to raw value: clamps to `dMin` ... `dMax`, undoes the scaling, rounds half away from zero and
         /// clamps to what the bit length holds under the sign code. A negative value of two's complement is
-        /// sign-extended to 32 bits; one of sign and magnitude loses its sign.
+        /// sign-extended to 32 bits; one of sign and magnitude loses its sign. No class overrides this:
+        /// what it does besides scaling is not undone, which krm::RawFromPhysical does.
         virtual krm_ulong ConvLogicalValue(krm_ulong* result, double value, unsigned char uchSigned,
                                            unsigned short ushBitLength, krm_long lMul, krm_long lDiv, krm_long lOffset,
                                            unsigned char uchDecPntCount, double dMax, double dMin),
