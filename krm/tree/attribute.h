@@ -21,8 +21,8 @@ inline constexpr krm_ulong kULongValue = 4;   ///< an unsigned 32-bit number
 /// An integer literal fits several of these types. Give it the one you mean, `krm_long(7)` or `krm_ulong(7)`: the plain
 /// `7` and `7L` compile on some platforms only.
 ///
-/// Copies share the value with the original, and both free it. Don't copy an attribute that has one: construct a new one
-/// and set its value.
+/// Copies share the value with the original, and both free it. Don't copy an attribute that has one: krm::tree::Clone
+/// does that.
 class KRM_API CKRMCAttribute : public CKRMCNode {
 public:
     // A null name gives an empty one. A value that can't be set (out of memory, or a null text) leaves the attribute

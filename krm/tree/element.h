@@ -24,7 +24,7 @@ class CKRMCElementGroup;
 /// The operations call one another virtually: whoever overrides GetAttribute changes what CreateAttribute finds.
 ///
 /// Copies share attributes and children with the original, and both destroy them. Don't copy an element that has any:
-/// construct a new one and create them again.
+/// krm::tree::Clone does that.
 class KRM_API CKRMCElement : public CKRMCNode {
 public:
     /// An element without attributes and children. A null `name` gives an empty one.
@@ -46,8 +46,8 @@ public:
     /// Destroys `attribute` AND ALL ATTRIBUTES BEHIND IT, which it owns.
     ///
     /// Only removing the last attribute leaves the element sound: after any other removal it still leads to the destroyed
-    /// ones and must not be used or destroyed any more. To be rid of an attribute in the middle, empty it with ClearValue;
-    /// to be rid of several, remove them from the last one backwards, or all with RemoveAll.
+    /// ones and must not be used or destroyed any more. krm::tree::Remove (krm/tree/tools.h) takes out just one; here
+    /// several go from the last one backwards, or all with RemoveAll.
     ///
     /// False with an error code when the attribute is null (kNullArgument) or not in this element (kNoSuchAttribute).
     virtual bool RemoveAttribute(CKRMError* error, CKRMCAttribute* attribute);

@@ -9,8 +9,8 @@
 ///
 /// The operations call one another, and those of the elements, virtually.
 ///
-/// Copies share the elements with the original, and both destroy them. Don't copy a group that has any: construct a new
-/// one and create them again.
+/// Copies share the elements with the original, and both destroy them. Don't copy a group that has any: krm::tree::Clone
+/// does that.
 class KRM_API CKRMCElementGroup : public CKRMCNode {
 public:
     /// A group without elements. A null `name` gives an empty one.
@@ -29,8 +29,8 @@ public:
     /// Destroys `element` AND ALL ELEMENTS BEHIND IT, which it owns.
     ///
     /// Only removing the last element leaves the group sound: after any other removal it still leads to the destroyed
-    /// ones, and neither it nor the tree that holds it may be used or destroyed any more. To be rid of several, remove
-    /// them from the last one backwards.
+    /// ones, and neither it nor the tree that holds it may be used or destroyed any more. krm::tree::Remove takes
+    /// out just one.
     ///
     /// False with an error code when the element is null (kNullArgument) or not in this group (kNoSuchElement).
     virtual bool RemoveElement(CKRMError* error, CKRMCElement* element);

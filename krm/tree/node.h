@@ -10,6 +10,8 @@
 // with empty details. A null error object is allowed; the failure then shows in the result alone. No such operation
 // throws; only Description, and a constructor whose name can't be copied, let a std::bad_alloc pass.
 //
+// krm/tree/tools.h has loops, searching by path, removing a single node, copies and XML.
+//
 // One tree is used by one thread at a time; distinct trees are independent.
 #ifndef KRM_TREE_NODE_H_
 #define KRM_TREE_NODE_H_
@@ -45,8 +47,8 @@ inline constexpr krm_ulong kValueUnset = 2100100123;        ///< one of the two 
 /// only while GetNext() is null; a node that stands in a tree belongs to the tree, which destroys it.
 ///
 /// Copying is member by member: a copy shares the following siblings, and in derived classes the value and the children,
-/// with the original. Both destroy them, the second time as a double free. So don't copy a node that has any of these; to
-/// duplicate one, construct a new node of the same name, or let its parent create it, and set the values again.
+/// with the original. Both destroy them, the second time as a double free. So don't copy a node that has any of these:
+/// krm::tree::Clone (krm/tree/tools.h) makes a copy that owns what it holds.
 class KRM_API CKRMCNode {
 public:
     /// A node on its own. A null `name` leaves the name empty.

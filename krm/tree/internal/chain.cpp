@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -54,6 +55,55 @@ CKRMCNode* Chain::TakeChildren(CKRMCNode* node) {
         return std::exchange(group->m_pcFirstElement, nullptr);
     }
     return nullptr;
+}
+
+CKRMCAttribute* Chain::NewAttribute(CKRMCElement& element, const char* name) {
+    Operation operation(nullptr);
+    return AppendNew(operation, element, element.m_pcFirstAttribute, element.m_pcLastAttribute, name);
+}
+
+CKRMCElementGroup* Chain::NewGroup(CKRMCElement& element, const char* name) {
+    Operation operation(nullptr);
+    return AppendNew(operation, element, element.m_pcFirstGroup, element.m_pcLastGroup, name);
+}
+
+CKRMCElement* Chain::NewElement(CKRMCElementGroup& group, const char* name) {
+    Operation operation(nullptr);
+    return AppendNew(operation, group, group.m_pcFirstElement, group.m_pcLastElement, name);
+}
+
+CKRMCElement* Chain::FirstElement(const CKRMCElementGroup& group) {
+    return group.m_pcFirstElement;
+}
+
+// Which of an element's two chains a node stands in doesn't matter but for the node at an end, and this the end tells.
+bool Chain::Unlink(CKRMCNode& node) {
+    const auto moveEnds = [&node](auto*& head, auto*& tail) {
+        if (head == &node) {
+            head = static_cast<std::remove_reference_t<decltype(head)>>(node.m_pcNext);
+        }
+        if (tail == &node) {
+            tail = static_cast<std::remove_reference_t<decltype(tail)>>(node.m_pcPrev);
+        }
+    };
+    if (auto* const element = dynamic_cast<CKRMCElement*>(node.m_pcParent)) {
+        moveEnds(element->m_pcFirstAttribute, element->m_pcLastAttribute);
+        moveEnds(element->m_pcFirstGroup, element->m_pcLastGroup);
+    } else if (auto* const group = dynamic_cast<CKRMCElementGroup*>(node.m_pcParent)) {
+        moveEnds(group->m_pcFirstElement, group->m_pcLastElement);
+    } else {
+        return false;
+    }
+    if (node.m_pcNext != nullptr) {
+        node.m_pcNext->m_pcPrev = node.m_pcPrev;
+    }
+    if (node.m_pcPrev != nullptr) {
+        node.m_pcPrev->m_pcNext = node.m_pcNext;
+    }
+    node.m_pcNext = nullptr;
+    node.m_pcPrev = nullptr;
+    node.m_pcParent = nullptr;
+    return true;
 }
 
 // A destructor that destroyed children and followers by itself would need a stack as deep as the tree, and as long as

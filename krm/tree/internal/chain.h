@@ -68,6 +68,17 @@ struct Chain {
         return node;
     }
 
+    // A new node behind the last, whatever else has its name; null when it can't be allocated.
+    static CKRMCAttribute* NewAttribute(CKRMCElement& element, const char* name);
+    static CKRMCElementGroup* NewGroup(CKRMCElement& element, const char* name);
+    static CKRMCElement* NewElement(CKRMCElementGroup& group, const char* name);
+
+    /// The first element of `group`, asking no operation that a class of a user's own may override.
+    static CKRMCElement* FirstElement(const CKRMCElementGroup& group);
+
+    /// Takes `node` alone out of the element or group that holds it; false, and nothing done, when none does.
+    static bool Unlink(CKRMCNode& node);
+
     /// Unlinks `node` and destroys it with all its followers, which it owns. What leads to these is left as it was.
     template <class T>
     static bool Remove(Operation& operation, T*& head, T*& tail, T* node, krm_ulong notFound) {
