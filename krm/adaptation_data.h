@@ -4,6 +4,7 @@
 
 // Lists, byte buffer, strings, the message base, the error object, the operation log.
 #include "krm/core/binary.h"
+#include "krm/core/error_codes.h"
 #include "krm/core/list.h"
 #include "krm/platform/platform.h"
 
@@ -13,6 +14,7 @@
 #include "krm/framework/record.h"
 
 // Signal converters.
+#include "krm/convert/conversion_types.h"
 #include "krm/convert/converter.h"
 #include "krm/convert/specialised.h"
 

@@ -29,6 +29,9 @@ struct ConversionType {
     const char* shows;      ///< what its physical value and its text are
     /// What IsBinaryDataType of the converter returns: whether the item's bytes are converted, not its raw value.
     bool takesBytes = false;
+    /// Whether a raw value can be found again from what is shown (krm::RawFromPhysical). Where it can't, different raw
+    /// values are shown alike.
+    bool invertible = true;
     /// Whether the text is written as the locale of the user asks, and so differs from one computer to another.
     bool followsLocale = false;
     /// The arguments of CKRMCCommandConvSignalDataChassis: the number of bits, and whether the last of them is a sign. 0
@@ -56,6 +59,7 @@ inline constexpr ConversionType kConversionTypes[] = {
      .className = "CKRMCCommandConvSignalDataAscii",
      .shows = "up to 255 bytes as text, - where the first is 0",
      .takesBytes = true,
+     .invertible = false,
      .example = {.raw = 0x4F4B, .bitLength = 16, .text = "OK"}},
     {.code = 5,
      .name = "trouble code",
@@ -66,6 +70,7 @@ inline constexpr ConversionType kConversionTypes[] = {
      .name = "illuminance from a period",
      .className = "CKRMCCommandConvSignalDataIlluminance",
      .shows = "an illuminance, reciprocal to the raw value in two pieces; without scaling",
+     .invertible = false,
      .example = {.raw = 48, .text = "600"}},
     {.code = 7,
      .name = "10 mirrored bits with sign",
@@ -139,6 +144,7 @@ inline constexpr ConversionType kConversionTypes[] = {
      .name = "illuminance with texts for its limits",
      .className = "CKRMCCommandConvSignalDataIlluminanceMinMax",
      .shows = "an illuminance, linear in two pieces, without scaling; at a limit or beyond the text of pattern 0 or 1",
+     .invertible = false,
      .example =
          {.raw = 4000, .bitLength = 16, .max = 3500, .patternKey = 1, .patternText = "Bright", .text = "Bright"}},
     {.code = 101,
@@ -238,6 +244,19 @@ constexpr const ConversionType& ConversionTypeOf(unsigned char code) {
         }
     }
     return kPlainNumber;
+}
+
+/// Whether a conversion type tells its raw values apart: krm::RawFromPhysical (krm/convert/signal.h) finds the raw value
+/// behind what such a type shows.
+///
+/// Not so are the texts of type 4, which end at a NUL, and the illuminances of types 6 and 24, which many raw values share.
+/// What the others show alike means the same: a negative zero, a BCD digit above 9, bits that the type doesn't read, the
+/// ends at which types 102 and 114 stay. A scaling that loses something is the rule's doing and not asked here.
+///
+/// The interface's ConvLogicalValue undoes the scaling alone: of most types that do more than scale it gives another raw
+/// value, with status 0.
+constexpr bool IsInvertible(unsigned char code) {
+    return ConversionTypeOf(code).invertible;
 }
 
 }  // namespace krm

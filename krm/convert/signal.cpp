@@ -232,8 +232,8 @@ private:
     };
     /// How types 7 to 11 read their bits.
     Group ChassisGroup() const {
-        constexpr std::array<Group, 5> kGroups = {{{10, true}, {12, true}, {10, false}, {8, true}, {16, false}}};
-        return kGroups[m_type - 7U];
+        const ConversionType& type = ConversionTypeOf(m_type);
+        return {static_cast<unsigned>(type.groupWidth), type.lastBitIsSign};
     }
 
     /// The bits that carry a sign, as the converters count them: of bit lengths 0 and 32 all, of 33 one.

@@ -16,25 +16,10 @@
 #include <string_view>
 #include <vector>
 
+#include "krm/convert/conversion_types.h"
 #include "krm/convert/converter.h"
 
 namespace krm {
-
-/// Whether a conversion type tells its raw values apart: RawFromPhysical finds the raw value behind what such a type shows.
-///
-/// Not so are the texts of type 4, which end at a NUL, and the illuminances of types 6 and 24, which many raw values share.
-/// What the others show alike means the same: a negative zero, a BCD digit above 9, bits that the type doesn't read, the
-/// ends at which types 102 and 114 stay. A scaling that loses something is the rule's doing and not asked here.
-constexpr bool IsInvertible(unsigned char conversionType) {
-    switch (conversionType) {
-        case 4:
-        case 6:
-        case 24:
-            return false;
-        default:
-            return true;
-    }
-}
 
 /// Owns a converter and gives it back through DeleteConverter. Movable; one that was moved from may only be assigned to
 /// or destroyed.
