@@ -233,18 +233,20 @@ krm_ulong CKRMCCommandConvSignalData::PhysicalConversion(double* result, krm_ulo
     if (status != 0) {
         return status;
     }
-    auto scaled = static_cast<Extended>(number);
-    if (lMul != 1) {
-        scaled = scaled * static_cast<Extended>(krm_int64{lMul});
-    }
-    if (Divides(lDiv)) {
-        scaled = scaled / static_cast<Extended>(krm_int64{lDiv});
-    }
-    scaled = scaled + static_cast<Extended>(krm_int64{lOffset});
-    if (uchDecPntCount != 0) {  // a division by 1 changes nothing and takes as long as any
-        scaled = scaled / static_cast<Extended>(PowerOfTen(uchDecPntCount));
-    }
-    *result = static_cast<double>(scaled);
+    *result = krm::convert::InExtendedPrecision(number, [&](krm_int64 signedValue) {
+        auto scaled = static_cast<Extended>(signedValue);
+        if (lMul != 1) {
+            scaled = scaled * static_cast<Extended>(krm_int64{lMul});
+        }
+        if (Divides(lDiv)) {
+            scaled = scaled / static_cast<Extended>(krm_int64{lDiv});
+        }
+        scaled = scaled + static_cast<Extended>(krm_int64{lOffset});
+        if (uchDecPntCount != 0) {  // a division by 1 changes nothing and takes as long as any
+            scaled = scaled / static_cast<Extended>(PowerOfTen(uchDecPntCount));
+        }
+        return static_cast<double>(scaled);
+    });
     return 0;
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "krm/convert/internal/extended.h"
 #include "krm/convert/internal/numbers.h"
 #include "krm/convert/internal/steps.h"
 
@@ -64,7 +65,8 @@ double SlopeOf(double physical) {
     if (std::fabs(sine) > 1) {
         return std::numeric_limits<double>::quiet_NaN();  // an arcsine's NaN has another sign on each platform
     }
-    return std::clamp(std::tan(std::asin(sine)) * 100, -100.0, 100.0);
+    return std::clamp(krm::convert::InExtendedPrecision(sine, [](double of) { return std::tan(std::asin(of)) * 100; }),
+                      -100.0, 100.0);
 }
 
 /// Degrees Celsius of a thermistor.
@@ -75,7 +77,9 @@ double TemperatureOf(krm_ulong raw) {
     constexpr double kBeta = 3520;                                 // kelvin
     constexpr double kReciprocalReference = 0.003411222923418046;  // 1 / 293.15 K
     constexpr double kZeroCelsius = 273.15;                        // kelvin
-    return 1 / (std::log(resistanceRatio) / kBeta + kReciprocalReference) - kZeroCelsius;
+    return 1 / (krm::convert::InExtendedPrecision(resistanceRatio, [](double of) { return std::log(of); }) / kBeta +
+                kReciprocalReference) -
+           kZeroCelsius;
 }
 
 }  // namespace
