@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/krm
 
 build_tools=(cmake ninja-build g++ make)
-test_tools=(googletest nlohmann-json3-dev python3-minimal)
+test_tools=(googletest nlohmann-json3-dev libpugixml-dev python3-minimal)
 
 say() { printf '== %s\n' "$*"; }
 as_root() {
@@ -31,6 +31,12 @@ need() {
     say "installing ${missing[*]}"
     as_root apt-get update -qq
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# What compiles for 32-bit Linux: the package for this very version of g++. That for any version can't be installed beside
+# the cross compilers.
+need_32_bits() {
+    need "g++-$(g++ -dumpversion | cut -d. -f1)-multilib"
 }
 
 # build PRESET [TARGET...]: configures and builds.

@@ -12,7 +12,7 @@ prepare() {
     need "${build_tools[@]}" "${test_tools[@]}"
     case $1 in
         linux64) ;;
-        linux32) need g++-multilib ;;
+        linux32) need_32_bits ;;
         windows-i686)
             need g++-mingw-w64-i686-posix
             KRM_WINE=$(wine_command)
