@@ -578,7 +578,7 @@ RawSignal OrNothing(RawSignal found) {
 krm_ulong ConvertSignal(const SignalConverter& converter, const SignalRule& rule, krm_ulong raw,
                         CKRMCCommandDispData* display) {
     if (converter->IsBinaryDataType()) {
-        return kNullPointer;
+        return kNullArgument;
     }
     const CKRMCCommandConversionData& table = rule.conversion;
     return converter->ConvCommandDispData(display, raw, table.m_uchSigned, table.m_ushBitLength, table.m_lMul,
@@ -589,11 +589,11 @@ krm_ulong ConvertSignal(const SignalConverter& converter, const SignalRule& rule
 krm_ulong ConvertSignal(const SignalConverter& converter, const SignalRule& rule, std::span<const unsigned char> bytes,
                         CKRMCCommandDispData* display) {
     if (display == nullptr || bytes.empty()) {
-        return kNullPointer;
+        return kNullArgument;
     }
     if (!converter->IsBinaryDataType()) {
         if (bytes.size() > sizeof(krm_ulong)) {
-            return kNullPointer;
+            return kNullArgument;
         }
         krm_ulong raw = 0;
         for (const unsigned char byte : bytes) {

@@ -112,8 +112,6 @@ def main():
             if not any(included == entry or (entry.endswith("/") and included.startswith(entry))
                        for entry in allowed[folder]):
                 faults.append(where + f"{folder} may not include {included}")
-            elif internal and not included.startswith(folder + "/"):
-                faults.append(where + f"{included} is for its own folder alone")
     for fault in faults:
         print(fault)
     print(f"{len(files)} files, {includes} includes, {len(faults)} faults")
