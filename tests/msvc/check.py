@@ -23,7 +23,7 @@ CLASSES = ROOT / "tests/support/all_classes.h"
 # The target, the size of its pointers, and a target with the same types whose layouts the tests prove by running.
 TARGETS = (("i686-pc-windows-msvc", 4, "i686-w64-windows-gnu"), ("x86_64-pc-windows-msvc", 8, "x86_64-w64-windows-gnu"))
 SIZES = {"char": 1, "signed char": 1, "unsigned char": 1, "_Bool": 1, "bool": 1, "short": 2, "unsigned short": 2,
-         "int": 4, "unsigned int": 4, "krm_ulong": 4, "krm_long": 4, "double": 8, "krm_int64": 8}
+         "int": 4, "unsigned int": 4, "krm_ulong": 4, "krm_long": 4, "double": 8, "krm_int64": 8, "CommandFamily": 4}
 
 failures = []
 
@@ -161,9 +161,7 @@ def size_and_alignment(kind, pointer, layouts):
         return size * int(array[2]), align
     if kind.endswith("*"):
         return pointer, pointer
-    if kind.startswith("enum "):
-        return SIZES["int"], SIZES["int"]
-    kind = re.sub(r"^const ", "", kind)
+    kind = re.sub(r"^(const |enum krm::|enum )", "", kind)
     if kind in layouts:
         return layouts[kind].size, layouts[kind].align
     return SIZES[kind], SIZES[kind]
