@@ -1,11 +1,11 @@
 #include "engine.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
-#include <memory>
-#include <optional>
 
 #include "krm/convert/converter.h"
+#include "received.h"
 
 namespace diagnosis_session {
 namespace {
@@ -13,6 +13,8 @@ namespace {
 // Conversion types, as CreateConverter takes them.
 constexpr unsigned char kConvertNumber = 0;
 constexpr unsigned char kConvertStringPattern = 1;
+constexpr unsigned char kConvertHex = 3;
+constexpr unsigned char kConvertTroubleCode = 5;
 
 // The engine's codes for fields whose meaning the library leaves to it.
 constexpr unsigned char kBigEndian = 1;
@@ -73,12 +75,6 @@ std::uint32_t CutOut(const Item& item, std::span<const std::uint8_t> data) {
     return static_cast<std::uint32_t>(window >> behind & mask);
 }
 
-/// "P0301" of 0x0301: two bits name the system, two more the first digit.
-std::string TroubleCodeName(std::uint32_t code) {
-    const std::uint8_t low[] = {static_cast<std::uint8_t>(code >> 8U & 0x3FU), static_cast<std::uint8_t>(code)};
-    return "PCBU"[code >> 14U & 3U] + HexOf(low);
-}
-
 const char* PhaseName(unsigned char phase) {
     switch (static_cast<DtcPhase>(phase)) {
         case DtcPhase::Stored:
@@ -127,113 +123,308 @@ std::uint32_t PidOf(std::uint8_t service, std::span<const std::uint8_t> key) {
     return NumberOf(service == 0x02 ? key.first(1) : key);
 }
 
-/// Describes an item: names, unit, scaling, limits, patterns and where its value lies. No value yet.
-CKRMCCommandFFDData DescribeItem(const Item& item, std::uint32_t pid, std::size_t dataLength) {
-    CKRMCCommandFFDData record;
+/// The words of a unit that names two states, for 0 and for 1; null where it doesn't.
+struct States {
+    const char* unit;
+    const char* off;
+    const char* on;
+};
+constexpr States kStates[] = {
+    {"offon", "off", "on"}, {"onoff", "on", "off"}, {"noyes", "no", "yes"}, {"yesno", "yes", "no"}};
+
+const States* StatesOf(const Item& item) {
+    const auto* const found = std::find_if(std::begin(kStates), std::end(kStates),
+                                           [&](const States& states) { return states.unit == item.unit; });
+    return item.hasMap || found == std::end(kStates) ? nullptr : found;
+}
+
+/// Whether the item is a trouble code: by its unit, or because it is the one that stored a freeze frame, PID 02.
+bool IsTroubleCode(const Item& item, const Bytes& request) {
+    const bool storedFrame =
+        request.size() == 2 && (request[0] == 0x01 || request[0] == 0x02) && request[1] == 0x02 && item.length == 16;
+    return !item.hasMap && (item.unit == "dtc" || (storedFrame && item.unit == "hex"));
+}
+
+void AddPattern(CKRMCCommandConversionData& rule, krm_ulong raw, const char* text) {
+    CKRMCCommandDispData pattern;
+    pattern.m_ulRawData = raw;
+    pattern.m_strDataPhys = text;
+    rule.m_cPatternDispList.AddTail(pattern);
+}
+
+Converter MakeConverter(unsigned char type) {
+    return Converter(CKRMCCommandConvSignalData::CreateConverter(type));
+}
+
+}  // namespace
+
+/// An item made ready to take values: what every record of it has in common, and its converters.
+struct DiagnosisEngine::Prepared {
+    CKRMCCommandFFDData record;  ///< with one display value, still empty
+    Converter physical;          ///< raw value to physical value and its text
+    Converter display;           ///< to the text that is shown
+    ShownUnit unit;
+    DisplayKind kind = DisplayKind::Number;
+    bool isMap = false;  ///< the table's own words, which are the physical value's text too
+
+    void Describe(const Item& item, const Bytes& request, const UnitSettings& units);
+    void Convert(krm_ulong raw, krm_long offset, CKRMCCommandDispData& shown) const;
+
+private:
+    krm_ulong RawLimit(std::optional<double> limit, krm_ulong otherwise) const;
+    void FillLimits(const Item& item);
+
+    /// The library's interface takes patterns and default text as pointers to what may change; it changes nothing.
+    CKRMCCommandConversionData& Rule() const {
+        return const_cast<CKRMCCommandConversionData&>(record.m_cConversionTbl);
+    }
+};
+
+/// Names, unit, scaling, limits, patterns and where its value lies.
+void DiagnosisEngine::Prepared::Describe(const Item& item, const Bytes& request, const UnitSettings& units) {
+    const States* const states = StatesOf(item);
+    isMap = item.hasMap;
+    unit = units.For(item.unit);
     record.m_ushId = item.number;
     record.m_strName = item.name.c_str();
     record.m_strFFDText = item.id.c_str();
     record.m_strUnitPhys = item.unit.c_str();
-    record.m_strUnit = item.unit.c_str();
-    record.m_uchDataType = item.hasMap ? kConvertStringPattern : kConvertNumber;
+    record.m_strUnit = unit.name.c_str();
     record.m_uchDecPntCount = item.scaling.decimals;
-    record.m_uchUnitConvDecPntCount = item.hasMap ? item.scaling.decimals : kShownDecimals;
+    record.m_uchUnitConvDecPntCount =
+        static_cast<unsigned char>(item.hasMap ? 0 : std::min(item.decimals + unit.moreDecimals, +kShownDecimals));
+    if (item.hasMap || states != nullptr) {
+        kind = DisplayKind::Words;
+        record.m_uchDataType = kConvertStringPattern;
+    } else if (IsTroubleCode(item, request)) {
+        kind = DisplayKind::TroubleCode;
+        record.m_uchDataType = kConvertTroubleCode;
+    } else {
+        record.m_uchDataType = item.unit == "hex" ? kConvertHex : kConvertNumber;
+    }
+    physical = MakeConverter(item.hasMap ? kConvertStringPattern : kConvertNumber);
+    display = MakeConverter(record.m_uchDataType);
 
     // The conversion rule. A fresh record multiplies by 0, so multiplier and divisor are always set.
     CKRMCCommandConversionData& rule = record.m_cConversionTbl;
     rule.m_lMul = item.scaling.mul;
     rule.m_lDiv = item.scaling.div;
     rule.m_lOffset = item.scaling.offset;
+    rule.m_ushGenreId = static_cast<unsigned short>(UnitSettings::GenreOf(item.unit));
     rule.m_uchSigned = item.isSigned ? kTwosComplement : 0;
     rule.m_ushBitLength = static_cast<unsigned short>(item.length);
     for (const auto& [raw, text] : item.map) {
-        CKRMCCommandDispData pattern;
-        pattern.m_ulRawData = raw;
-        pattern.m_strDataPhys = text.c_str();
-        rule.m_cPatternDispList.AddTail(pattern);
+        AddPattern(rule, raw, text.c_str());
+    }
+    if (states != nullptr) {
+        AddPattern(rule, 0, states->off);
+        AddPattern(rule, 1, states->on);
     }
 
     // Where the value lies. The mask applies to the bytes as one number; of five bytes it can show the lower four only.
     CKRMCCommandDataLayout& layout = record.m_cDataLayout;
     const std::size_t firstByte = item.bit / 8;
     const std::size_t endByte = (item.EndBit() + 7) / 8;
-    layout.m_ulPidNo = pid;
-    layout.m_ulDataLen = static_cast<krm_ulong>(dataLength);
     layout.m_uchEndian = kBigEndian;
     layout.m_ulByteNum = static_cast<krm_ulong>(endByte - firstByte);
     layout.m_ulBytePos = static_cast<krm_ulong>(firstByte);
     layout.m_ulBitMask =
         static_cast<krm_ulong>(((std::uint64_t{1} << item.length) - 1) << (endByte * 8 - item.EndBit()) & 0xFFFFFFFFU);
-    return record;
+
+    FillLimits(item);
+    record.m_cDispDataList.AddTail(CKRMCCommandDispData());
 }
 
-/// Fills `display` from a raw value by the rule of `record`. This is what every value goes through.
-void Convert(CKRMCCommandConvSignalData& converter, CKRMCCommandFFDData& record, krm_ulong raw, krm_long offset,
-             CKRMCCommandDispData& display) {
-    CKRMCCommandConversionData& rule = record.m_cConversionTbl;
+/// Fills `shown` from a raw value: first the physical value, then how it is displayed. Every value goes through this.
+void DiagnosisEngine::Prepared::Convert(krm_ulong raw, krm_long offset, CKRMCCommandDispData& shown) const {
+    CKRMCCommandConversionData& rule = Rule();
     const krm_ulong rawMax = rule.m_cDataMax.m_ulRawData;
     const krm_ulong rawMin = rule.m_cDataMin.m_ulRawData;
-    converter.ConvCommandDispData(&display, raw, rule.m_uchSigned, rule.m_ushBitLength, rule.m_lMul, rule.m_lDiv,
-                                  offset, record.m_uchDecPntCount, rawMax, rawMin, &rule.m_cPatternDispList,
+    physical->ConvCommandDispData(&shown, raw, rule.m_uchSigned, rule.m_ushBitLength, rule.m_lMul, rule.m_lDiv, offset,
+                                  record.m_uchDecPntCount, rawMax, rawMin, &rule.m_cPatternDispList,
                                   &rule.m_strDefaultPattern, 0);
-    if (record.m_uchDecPntCount != record.m_uchUnitConvDecPntCount) {
-        // The scaling needed other decimals than are shown: the physical value once more as text, with those.
-        converter.StringConversion(&display.m_strDataPhys, &display.m_ulDataStringId, display.m_dDataPhys, raw,
-                                   rule.m_uchSigned, rule.m_ushBitLength, record.m_uchUnitConvDecPntCount, rawMax,
-                                   rawMin, &rule.m_cPatternDispList, &rule.m_strDefaultPattern, 0);
+    if (record.m_uchDecPntCount != kShownDecimals && !isMap) {
+        // The scaling needed other decimals than a physical value is written with: its text once more, with those.
+        physical->StringConversion(&shown.m_strDataPhys, &shown.m_ulDataStringId, shown.m_dDataPhys, raw,
+                                   rule.m_uchSigned, rule.m_ushBitLength, kShownDecimals, rawMax, rawMin,
+                                   &rule.m_cPatternDispList, &rule.m_strDefaultPattern, 0);
     }
-    // There is no second unit system here: what is displayed is the physical value.
-    display.m_dData = display.m_dDataPhys;
-    display.m_strData = display.m_strDataPhys;
+    shown.m_ulDispDataType = static_cast<krm_ulong>(kind);
+    shown.m_dData = shown.m_dDataPhys * unit.factor + unit.offset;
+    display->StringConversion(&shown.m_strData, &shown.m_ulDataStringId, shown.m_dData, raw, rule.m_uchSigned,
+                              rule.m_ushBitLength, record.m_uchUnitConvDecPntCount, rawMax, rawMin,
+                              &rule.m_cPatternDispList, &rule.m_strDefaultPattern, 0);
+    if (kind == DisplayKind::TroubleCode && raw == 0) {
+        shown.m_strData = "none";  // no code has the number 0
+    }
 }
 
 /// The raw value of a limit that the table gives as a physical value; what the bits can hold where it gives none.
-krm_ulong RawLimit(CKRMCCommandConvSignalData& converter, const CKRMCCommandFFDData& record,
-                   std::optional<double> physical, krm_ulong otherwise) {
+krm_ulong DiagnosisEngine::Prepared::RawLimit(std::optional<double> limit, krm_ulong otherwise) const {
     const CKRMCCommandConversionData& rule = record.m_cConversionTbl;
-    if (!physical || rule.m_lMul == 0) {
+    if (!limit || rule.m_lMul == 0) {
         return otherwise;
     }
     krm_ulong raw = 0;
-    converter.ConvLogicalValue(&raw, *physical, rule.m_uchSigned, rule.m_ushBitLength, rule.m_lMul, rule.m_lDiv,
-                               rule.m_lOffset, record.m_uchDecPntCount, *physical, *physical);
+    physical->ConvLogicalValue(&raw, *limit, rule.m_uchSigned, rule.m_ushBitLength, rule.m_lMul, rule.m_lDiv,
+                               rule.m_lOffset, record.m_uchDecPntCount, *limit, *limit);
     // A negative raw value comes sign-extended to 32 bits.
     return raw & (0xFFFFFFFFU >> (32U - rule.m_ushBitLength));
 }
 
-/// Fills what of an item needs its converter but no value: limits and resolution.
-void FillLimits(CKRMCCommandConvSignalData& converter, const Item& item, CKRMCCommandFFDData& record) {
+/// What of an item needs its converters but no value: limits and resolution.
+void DiagnosisEngine::Prepared::FillLimits(const Item& item) {
     CKRMCCommandConversionData& rule = record.m_cConversionTbl;
     const krm_ulong all = 0xFFFFFFFFU >> (32U - rule.m_ushBitLength);
     const krm_ulong largest = item.isSigned ? all >> 1U : all;
     const krm_ulong smallest = item.isSigned ? largest + 1U : 0U;
-    Convert(converter, record, RawLimit(converter, record, item.max, largest), rule.m_lOffset, rule.m_cDataMax);
-    Convert(converter, record, RawLimit(converter, record, item.min, smallest), rule.m_lOffset, rule.m_cDataMin);
+    Convert(RawLimit(item.max, largest), rule.m_lOffset, rule.m_cDataMax);
+    Convert(RawLimit(item.min, smallest), rule.m_lOffset, rule.m_cDataMin);
     rule.m_cGraphMax = rule.m_cDataMax;
     rule.m_cGraphMin = rule.m_cDataMin;
-    if (!item.hasMap) {
+    if (kind == DisplayKind::Number) {
         // One raw step: the scaling of 1 without the offset.
-        Convert(converter, record, 1, 0, record.m_cResolutionData);
+        Convert(1, 0, record.m_cResolutionData);
     }
 }
 
-}  // namespace
+DiagnosisEngine::DiagnosisEngine(const ItemTable& table, NextExchange next, TotalsUpToNow totals, Complain complain)
+    : m_table(table), m_next(std::move(next)), m_totals(std::move(totals)), m_complain(std::move(complain)) {}
 
-DiagnosisEngine::DiagnosisEngine(const ItemTable& table, const std::vector<Exchange>& recording, Complain complain)
-    : m_table(table), m_recording(recording), m_complain(std::move(complain)) {}
+DiagnosisEngine::~DiagnosisEngine() = default;
 
-void DiagnosisEngine::Hear(const Exchange& exchange, const EcuAnswer& answer) {
-    m_exchange = &exchange;
-    m_answer = &answer;
+const DiagnosisEngine::Prepared& DiagnosisEngine::Prepare(const Item& item, const Bytes& request) {
+    if (m_prepared.size() <= item.number) {
+        m_prepared.resize(item.number + std::size_t{1});
+    }
+    std::unique_ptr<Prepared>& prepared = m_prepared[item.number];
+    if (!prepared) {
+        prepared = std::make_unique<Prepared>();
+        prepared->Describe(item, request, m_units);
+    }
+    return *prepared;
 }
 
-void DiagnosisEngine::EndExchange(const Exchange& exchange) {
+// ---- Messages by their command ----
+
+template <class Request, class Reply>
+bool DiagnosisEngine::AnswerAs(CKRMBaseAdaptationData& request, CKRMBaseAdaptationData& answer) {
+    const auto* const asked = krm::MessageAs<Request>(&request);
+    auto* const reply = krm::MessageAs<Reply>(&answer);
+    if (asked == nullptr || reply == nullptr) {
+        return false;
+    }
+    if constexpr (
+        requires { m_units.Answer(*asked, *reply); } && !requires { this->Answer(*asked, *reply); }) {
+        m_units.Answer(*asked, *reply);
+    } else {
+        Answer(*asked, *reply);
+    }
+    return true;
+}
+
+void DiagnosisEngine::Answer(CKRMBaseAdaptationData& request, CKRMBaseAdaptationData& answer) {
+    static_cast<void>(
+        AnswerAs<CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd, CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv>(
+            request, answer) ||
+        AnswerAs<CKRMCGetDataMonitorValueCmdAdaptDataSnd, CKRMCGetDataMonitorValueCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCGetCurrentDataValueCmdAdaptDataSnd, CKRMCGetCurrentDataValueCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCGetFFDCmdAdaptDataSnd, CKRMCGetFFDCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCGetDTCCmdAdaptDataSnd, CKRMCGetDTCCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCClearDTCCmdAdaptDataSnd, CKRMCClearDTCCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCGetVinCodeCmdAdaptDataSnd, CKRMCGetVinCodeCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCGetGroupEcuListCmdAdaptDataSnd, CKRMCGetGroupEcuListCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCEcuConnectCmdAdaptDataSnd, CKRMCEcuConnectCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCGetDataMonitorListCmdAdaptDataSnd, CKRMCGetDataMonitorListCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCStartDataMonitorCmdAdaptDataSnd, CKRMCStartDataMonitorCmdAdaptDataRcv>(request, answer) ||
+        AnswerAs<CKRMCGetUnitConversionInfoListUccAdaptDataSnd, CKRMCGetUnitConversionInfoListUccAdaptDataRcv>(
+            request, answer) ||
+        AnswerAs<CKRMCGetUnitSettingGroupListUccAdaptDataSnd, CKRMCGetUnitSettingGroupListUccAdaptDataRcv>(request,
+                                                                                                           answer) ||
+        AnswerAs<CKRMCGetUnitSettingGroupParamListUccAdaptDataSnd, CKRMCGetUnitSettingGroupParamListUccAdaptDataRcv>(
+            request, answer) ||
+        AnswerAs<CKRMCSetUnitConversionInfoUccAdaptDataSnd, CKRMCSetUnitConversionInfoUccAdaptDataRcv>(request,
+                                                                                                       answer));
+}
+
+void DiagnosisEngine::Answer(const CKRMCSetUnitConversionInfoUccAdaptDataSnd& request,
+                             CKRMCSetUnitConversionInfoUccAdaptDataRcv& answer) {
+    m_units.Answer(request, answer);
+    m_prepared.clear();  // for the units that held before
+}
+
+// ---- What is heard ----
+
+void DiagnosisEngine::Survey(const NextExchange& next, const TotalsUpToNow& totals) {
+    while (const std::optional<Exchange> exchange = next()) {
+        Learn(*exchange);
+    }
+    m_surveyed = true;
+    m_totalsToTell = totals();
+}
+
+void DiagnosisEngine::Learn(const Exchange& exchange) {
+    constexpr std::size_t kMostSeen = 1024;
+    for (const EcuAnswer& said : exchange.answers) {
+        Ecu& ecu = m_ecus[said.ecu];
+        if (exchange.Service() != 0x01 || said.IsNegative() || ecu.seen.contains(exchange.request)) {
+            continue;
+        }
+        if (ecu.seen.size() < kMostSeen) {
+            ecu.seen.insert(exchange.request);
+        }
+        for (const Parameter& parameter : Split(exchange, said, [](const Place&, const std::string&) {})) {
+            const std::uint32_t pid = NumberOf(parameter.key);
+            ecu.answered.insert(pid);
+            if (IsSupportMask(0x01, parameter.key) && parameter.data.size() >= kSupportMaskLength) {
+                ecu.masks[pid] = NumberOf(parameter.data.first(kSupportMaskLength));
+            }
+        }
+    }
+}
+
+void DiagnosisEngine::Answer(const CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd&,
+                             CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv& answer) {
+    Received received;
+    if (m_totalsToTell) {
+        received.hasTotals = true;
+        received.totals = *std::exchange(m_totalsToTell, std::nullopt);
+        WriteReceived(received, answer.m_cDmReceiveDataList);
+        return;
+    }
+    EndExchange();
+    m_exchange = m_next();
+    if (!m_exchange) {
+        received.hasTotals = true;
+        received.totals = m_totals();
+        received.isEnd = true;
+        WriteReceived(received, answer.m_cDmReceiveDataList);
+        return;
+    }
+    if (!m_surveyed) {
+        Learn(*m_exchange);
+    }
+    m_taken.assign(m_exchange->answers.size(), false);
+    received.number = m_exchange->number;
+    received.request = m_exchange->request;
+    for (const EcuAnswer& said : m_exchange->answers) {
+        received.answers.push_back({said.ecu, said.IsNegative(), said.time});
+    }
+    WriteReceived(received, answer.m_cDmReceiveDataList);
+}
+
+/// All answers to the request were taken: tells which of its parameters nobody answered.
+void DiagnosisEngine::EndExchange() {
+    if (!m_exchange) {
+        return;
+    }
+    const Exchange& exchange = *m_exchange;
     const bool someAnswered = std::any_of(exchange.answers.begin(), exchange.answers.end(),
                                           [](const EcuAnswer& answer) { return !answer.IsNegative(); });
-    const std::vector<Bytes> keys = KeysOf(exchange.request);
-    if (someAnswered && keys.size() > 1) {
+    if (someAnswered && exchange.request.size() > 2) {
+        const std::vector<Bytes> keys = KeysOf(exchange.request);
         for (const Bytes& key : keys) {
-            if (!m_answeredKeys.contains(key)) {
+            if (keys.size() > 1 && !m_answeredKeys.contains(key)) {
                 m_complain(exchange.line,
                            "request " + HexOf(exchange.request) + " has no answer for parameter " + HexOf(key));
             }
@@ -241,37 +432,39 @@ void DiagnosisEngine::EndExchange(const Exchange& exchange) {
     }
     m_answeredKeys.clear();
     m_told.clear();
-    m_exchange = nullptr;
-    m_answer = nullptr;
+}
+
+const EcuAnswer* DiagnosisEngine::Take(krm_ulong ecu) {
+    for (std::size_t i = 0; m_exchange && i < m_exchange->answers.size(); ++i) {
+        if (!m_taken[i] && m_exchange->answers[i].ecu == ecu) {
+            m_taken[i] = true;
+            return &m_exchange->answers[i];
+        }
+    }
+    return nullptr;
 }
 
 /// Whether the ECU refused what was asked, which then is told and noted in the message.
-bool DiagnosisEngine::Refused(CKRMCBaseCmdAdaptDataRcv& answer) {
-    if (!m_answer->IsNegative()) {
+bool DiagnosisEngine::Refused(const EcuAnswer& said, CKRMCBaseCmdAdaptDataRcv& answer) {
+    if (!said.IsNegative()) {
         return false;
     }
-    const std::string who = HexOfId(m_answer->ecu) + " refuses request " + HexOf(m_exchange->request);
-    if (m_answer->bytes.size() < 3) {
-        m_complain(m_answer->line, who + " without a reason");
+    const std::string who = HexOfId(said.ecu) + " refuses request " + HexOf(m_exchange->request);
+    if (said.bytes.size() < 3) {
+        m_complain(said.line, who + " without a reason");
         return true;
     }
-    const std::uint8_t reason = m_answer->bytes[2];
-    m_complain(m_answer->line, who + ": " + HexOf(std::span(&reason, 1)) + ", " + ReasonText(reason));
+    const std::uint8_t reason = said.bytes[2];
+    m_complain(said.line, who + ": " + HexOf(std::span(&reason, 1)) + ", " + ReasonText(reason));
     answer.m_bNotSupport = reason == 0x11 || reason == 0x12 || reason == 0x31;
     return true;
 }
 
 void DiagnosisEngine::Answer(const CKRMCGetGroupEcuListCmdAdaptDataSnd&, CKRMCGetGroupEcuListCmdAdaptDataRcv& answer) {
-    std::set<std::uint32_t> ecus;
-    for (const Exchange& exchange : m_recording) {
-        for (const EcuAnswer& said : exchange.answers) {
-            ecus.insert(said.ecu);
-        }
-    }
     CKRMCCommandEcuGroupData group;
     group.m_ushGroupId = kOnlyGroup;
     group.m_strGroupName = "On-board diagnostics";
-    for (const std::uint32_t ecu : ecus) {
+    for (const auto& [ecu, known] : m_ecus) {
         CKRMCCommandEcuData record;
         record.m_ushEcuConnectionStatus = kEcuAnswers;
         record.m_ulEcuId = ecu;
@@ -286,58 +479,58 @@ void DiagnosisEngine::Answer(const CKRMCGetGroupEcuListCmdAdaptDataSnd&, CKRMCGe
 void DiagnosisEngine::Answer(const CKRMCEcuConnectCmdAdaptDataSnd& request, CKRMCEcuConnectCmdAdaptDataRcv& answer) {
     answer.m_ulEcuId = request.m_ulEcuId;
     answer.m_ushBusId = request.m_ushBusId;
-    for (const Exchange& exchange : m_recording) {
-        for (const EcuAnswer& said : exchange.answers) {
-            answer.m_bConnect = answer.m_bConnect || said.ecu == request.m_ulEcuId;
-        }
-    }
+    answer.m_bConnect = m_ecus.contains(request.m_ulEcuId);
     answer.m_strDescription = answer.m_bConnect ? "the ECU answers" : "no answer from this ECU";
 }
 
-void DiagnosisEngine::Answer(const CKRMCGetVinCodeCmdAdaptDataSnd&, CKRMCGetVinCodeCmdAdaptDataRcv& answer) {
-    if (Refused(answer)) {
+void DiagnosisEngine::Answer(const CKRMCGetVinCodeCmdAdaptDataSnd& request, CKRMCGetVinCodeCmdAdaptDataRcv& answer) {
+    const EcuAnswer* const said = Take(request.m_ulEcuId);
+    if (said == nullptr || Refused(*said, answer)) {
         return;
     }
     // 49 02, the number of data items, the VIN; what is shorter than 17 characters has zeros before it.
     std::string vin;
-    for (std::size_t i = 3; i < m_answer->bytes.size(); ++i) {
-        if (!vin.empty() || m_answer->bytes[i] != 0) {
-            vin += static_cast<char>(m_answer->bytes[i]);
+    for (std::size_t i = 3; i < said->bytes.size(); ++i) {
+        if (!vin.empty() || said->bytes[i] != 0) {
+            vin += static_cast<char>(said->bytes[i]);
         }
     }
     const bool clean =
         std::all_of(vin.begin(), vin.end(), [](char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z'); });
     if (vin.size() != kVinLength || !clean) {
-        m_complain(m_answer->line,
-                   HexOfId(m_answer->ecu) + " gives a vehicle identification number that is not 17 letters and digits");
+        m_complain(said->line,
+                   HexOfId(said->ecu) + " gives a vehicle identification number that is not 17 letters and digits");
         return;
     }
     answer.m_strVinCode = vin.c_str();
 }
 
 void DiagnosisEngine::Answer(const CKRMCGetDTCCmdAdaptDataSnd& request, CKRMCGetDTCCmdAdaptDataRcv& answer) {
-    if (Refused(answer)) {
+    const EcuAnswer* const said = Take(request.m_ulEcuId);
+    if (said == nullptr || Refused(*said, answer)) {
         return;
     }
-    const std::string who = HexOfId(m_answer->ecu) + " answers request " + HexOf(m_exchange->request);
-    const std::span<const std::uint8_t> bytes(m_answer->bytes);
+    const std::string who = HexOfId(said->ecu) + " answers request " + HexOf(m_exchange->request);
+    const std::span<const std::uint8_t> bytes(said->bytes);
     if (bytes.size() < 2) {
-        m_complain(m_answer->line, who + " without the number of trouble codes");
+        m_complain(said->line, who + " without the number of trouble codes");
         return;
     }
     // The number of codes, then two bytes for each.
     const std::size_t announced = bytes[1];
     const std::span<const std::uint8_t> codes = bytes.subspan(2);
     if (codes.size() != announced * 2) {
-        m_complain(m_answer->line, who + " with " + std::to_string(codes.size()) + " bytes for " +
-                                       std::to_string(announced) + " trouble codes");
+        m_complain(said->line, who + " with " + std::to_string(codes.size()) + " bytes for " +
+                                   std::to_string(announced) + " trouble codes");
     }
+    const Converter converter = MakeConverter(kConvertTroubleCode);
     for (std::size_t i = 0; i < announced && i * 2 + 1 < codes.size(); ++i) {
         CKRMCCommandDTCData record;
         record.m_ulDTCCode = NumberOf(codes.subspan(i * 2, 2));
-        const std::string name = TroubleCodeName(record.m_ulDTCCode);
-        record.m_strDTC = name.c_str();
-        record.m_strDTCName = m_table.TroubleCodeText(name).c_str();
+        CKRMCCommandDispData shown;
+        converter->ConvCommandDispData(&shown, record.m_ulDTCCode, 0, 16, 1, 1, 0, 0, 0xFFFFU, 0, nullptr, nullptr, 0);
+        record.m_strDTC = shown.m_strDataPhys;
+        record.m_strDTCName = m_table.TroubleCodeText(record.m_strDTC.GetText()).c_str();
         record.m_uchDTCType = request.m_uchPhaseType;
         record.m_strDTCTypeName = PhaseName(request.m_uchPhaseType);
         answer.Data.AddTail(record);
@@ -345,55 +538,75 @@ void DiagnosisEngine::Answer(const CKRMCGetDTCCmdAdaptDataSnd& request, CKRMCGet
     answer.m_bDTCType = true;
 }
 
-void DiagnosisEngine::Answer(const CKRMCClearDTCCmdAdaptDataSnd&, CKRMCClearDTCCmdAdaptDataRcv& answer) {
-    if (Refused(answer)) {
+void DiagnosisEngine::Answer(const CKRMCClearDTCCmdAdaptDataSnd& request, CKRMCClearDTCCmdAdaptDataRcv& answer) {
+    const EcuAnswer* const said = Take(request.m_ulEcuId);
+    if (said != nullptr && Refused(*said, answer)) {
         // The reason for which the ECU refused; 0 is success.
-        answer.m_ulResult = m_answer->bytes.size() < 3 ? 0x10U : m_answer->bytes[2];
+        answer.m_ulResult = said->bytes.size() < 3 ? 0x10U : said->bytes[2];
     }
 }
 
-void DiagnosisEngine::Answer(const CKRMCGetFFDCmdAdaptDataSnd&, CKRMCGetFFDCmdAdaptDataRcv& answer) {
-    if (Refused(answer)) {
+void DiagnosisEngine::FillValues(const EcuAnswer& said, const std::set<std::uint32_t>* pids,
+                                 CKRMCBaseCmdAdaptDataRcv& answer, CKRMList<CKRMCCommandFFDData>& items) {
+    if (Refused(said, answer)) {
         return;
     }
     // What is wrong with the request itself is told once, however many ECUs answer it.
-    const Complain once = [this](std::size_t line, const std::string& what) {
-        if (m_told.insert({line, what}).second) {
-            m_complain(line, what);
+    const Complain once = [this](const Place& place, const std::string& what) {
+        if (m_told.insert({place.line, what}).second) {
+            m_complain(place, what);
         }
     };
+    const std::uint8_t service = m_exchange->Service();
     bool anyKnown = false;
-    for (const Parameter& parameter : Split(*m_exchange, *m_answer, once)) {
+    for (const Parameter& parameter : Split(*m_exchange, said, once)) {
         m_answeredKeys.insert(parameter.key);
-        anyKnown = anyKnown || parameter.command != nullptr || IsSupportMask(m_exchange->Service(), parameter.key);
-        FillItems(*m_exchange, *m_answer, parameter, answer.Data, once);
+        anyKnown = anyKnown || parameter.command != nullptr || IsSupportMask(service, parameter.key);
+        if (pids == nullptr || pids->contains(PidOf(service, parameter.key))) {
+            FillItems(said, parameter, items, once);
+        }
     }
     answer.m_bNotSupport = !anyKnown;
 }
 
+void DiagnosisEngine::Answer(const CKRMCGetFFDCmdAdaptDataSnd& request, CKRMCGetFFDCmdAdaptDataRcv& answer) {
+    if (const EcuAnswer* const said = Take(request.m_ulEcuId)) {
+        FillValues(*said, nullptr, answer, answer.Data);
+    }
+}
+
+void DiagnosisEngine::Answer(const CKRMCGetCurrentDataValueCmdAdaptDataSnd& request,
+                             CKRMCGetCurrentDataValueCmdAdaptDataRcv& answer) {
+    if (const EcuAnswer* const said = Take(request.m_ulEcuId)) {
+        FillValues(*said, nullptr, answer, answer.Data);
+    }
+}
+
+void DiagnosisEngine::Answer(const CKRMCGetDataMonitorValueCmdAdaptDataSnd& request,
+                             CKRMCGetDataMonitorValueCmdAdaptDataRcv& answer) {
+    const auto found = m_monitors.find(request.m_ushDataMonitorId);
+    if (found == m_monitors.end()) {
+        answer.m_bNotSupport = true;
+        return;
+    }
+    if (!m_exchange || m_exchange->Service() != 0x01) {
+        return;
+    }
+    if (const EcuAnswer* const said = Take(found->second.ecu)) {
+        FillValues(*said, &found->second.pids, answer, answer.Data);
+    }
+}
+
 void DiagnosisEngine::Answer(const CKRMCGetDataMonitorListCmdAdaptDataSnd& request,
                              CKRMCGetDataMonitorListCmdAdaptDataRcv& answer) {
-    // Which live values are there? The ECU says so itself with its support masks. Where the recording has none, what
-    // it answers elsewhere in the recording shows it.
-    std::set<std::uint32_t> answered;
-    std::map<std::uint32_t, std::uint32_t> masks;  // by the PID that asked for it
-    for (const Exchange& exchange : m_recording) {
-        if (exchange.Service() != 0x01) {
-            continue;
-        }
-        for (const EcuAnswer& said : exchange.answers) {
-            if (said.ecu != request.m_ulEcuId || said.IsNegative()) {
-                continue;
-            }
-            for (const Parameter& parameter : Split(exchange, said, [](std::size_t, const std::string&) {})) {
-                const std::uint32_t pid = NumberOf(parameter.key);
-                answered.insert(pid);
-                if (IsSupportMask(0x01, parameter.key) && parameter.data.size() >= kSupportMaskLength) {
-                    masks[pid] = NumberOf(parameter.data.first(kSupportMaskLength));
-                }
-            }
-        }
+    // Which live values are there? The ECU says so itself with its support masks; what it answers elsewhere in the
+    // recording shows it too. Without a survey that is still to come, and may be anything.
+    const auto known = m_ecus.find(request.m_ulEcuId);
+    if (known == m_ecus.end()) {
+        answer.m_bNotSupport = true;
+        return;
     }
+    const std::map<std::uint32_t, std::uint32_t>& masks = known->second.masks;
     // The support data: the masks of PID 00, 20, ... one behind the other, as far as the ECU gave them without a gap.
     for (const auto& [pid, mask] : masks) {
         if (pid / 0x20U * kSupportMaskLength != static_cast<std::size_t>(answer.m_uchA8SupportData.GetCount())) {
@@ -406,11 +619,10 @@ void DiagnosisEngine::Answer(const CKRMCGetDataMonitorListCmdAdaptDataSnd& reque
     const auto isSupported = [&](std::uint32_t pid) {
         // The first bit of the mask stands for the PID after the mask's own.
         const auto mask = masks.find((pid - 1U) / 0x20U * 0x20U);
-        return answered.contains(pid) ||
+        return !m_surveyed || known->second.answered.contains(pid) ||
                (mask != masks.end() && (mask->second >> (0x1FU - (pid - 1U) % 0x20U) & 1U) != 0);
     };
 
-    std::set<std::uint32_t> listed;
     for (const ItemCommand& command : m_table.Commands()) {
         if (command.request.size() != 2 || command.request[0] != 0x01 ||
             m_table.Find(command.request, request.m_ulEcuId) != &command) {
@@ -421,10 +633,10 @@ void DiagnosisEngine::Answer(const CKRMCGetDataMonitorListCmdAdaptDataSnd& reque
             continue;
         }
         for (const Item& item : command.items) {
-            const Converter converter(
-                CKRMCCommandConvSignalData::CreateConverter(item.hasMap ? kConvertStringPattern : kConvertNumber));
-            CKRMCCommandFFDData record = DescribeItem(item, pid, command.DataLength());
-            FillLimits(*converter, item, record);
+            CKRMCCommandFFDData record = Prepare(item, command.request).record;
+            record.m_cDispDataList.RemoveAll();
+            record.m_cDataLayout.m_ulPidNo = pid;
+            record.m_cDataLayout.m_ulDataLen = static_cast<krm_ulong>(command.DataLength());
             answer.Data.AddTail(record);
         }
     }
@@ -447,34 +659,6 @@ void DiagnosisEngine::Answer(const CKRMCStartDataMonitorCmdAdaptDataSnd& request
         answer.Data.AddTail(started);
     }
     answer.m_bDataMonitorEnable = answer.Data.GetCount() != 0;
-}
-
-void DiagnosisEngine::Answer(const CKRMCGetDataMonitorValueCmdAdaptDataSnd& request,
-                             CKRMCGetDataMonitorValueCmdAdaptDataRcv& answer) {
-    const auto found = m_monitors.find(request.m_ushDataMonitorId);
-    if (found == m_monitors.end()) {
-        answer.m_bNotSupport = true;
-        return;
-    }
-    // What is wrong with an answer was told when the session read it; here its good values count.
-    const Complain quiet = [](std::size_t, const std::string&) {};
-    Monitor& monitor = found->second;
-    while (answer.Data.GetCount() == 0 && monitor.next < m_recording.size()) {
-        const Exchange& exchange = m_recording[monitor.next++];
-        if (exchange.Service() != 0x01) {
-            continue;
-        }
-        for (const EcuAnswer& said : exchange.answers) {
-            if (said.ecu != monitor.ecu || said.IsNegative()) {
-                continue;
-            }
-            for (const Parameter& parameter : Split(exchange, said, quiet)) {
-                if (monitor.pids.contains(NumberOf(parameter.key))) {
-                    FillItems(exchange, said, parameter, answer.Data, quiet);
-                }
-            }
-        }
-    }
 }
 
 /// Cuts an answer into its parameters. With several in one answer, the table tells how long each one's data is; the last
@@ -537,39 +721,38 @@ const ItemCommand* DiagnosisEngine::FindCommand(std::uint8_t service, std::span<
     return own != nullptr ? own : find(0x01, key.first(1));
 }
 
-void DiagnosisEngine::FillItems(const Exchange& exchange, const EcuAnswer& answer, const Parameter& parameter,
-                                CKRMList<CKRMCCommandFFDData>& items, const Complain& complain) const {
+void DiagnosisEngine::FillItems(const EcuAnswer& answer, const Parameter& parameter,
+                                CKRMList<CKRMCCommandFFDData>& items, const Complain& complain) {
     if (parameter.command == nullptr) {
         return;
     }
-    const std::string where = " of " + HexOfId(answer.ecu) + "'s answer to request " + HexOf(exchange.request);
+    const Exchange& exchange = *m_exchange;
+    const auto where = [&] { return " of " + HexOfId(answer.ecu) + "'s answer to request " + HexOf(exchange.request); };
     const std::size_t bits = parameter.data.size() * 8;
     const std::vector<Item>& wanted = parameter.command->items;
     if (!wanted.empty() &&
         std::all_of(wanted.begin(), wanted.end(), [&](const Item& item) { return item.bit >= bits; })) {
-        complain(answer.line, "the data" + where +
+        complain(answer.line, "the data" + where() +
                                   " is too short for any item: " + std::to_string(parameter.data.size()) + " bytes");
         return;
     }
     for (const Item& item : wanted) {
-        // Step 1: what the item is.
-        const Converter converter(
-            CKRMCCommandConvSignalData::CreateConverter(item.hasMap ? kConvertStringPattern : kConvertNumber));
-        CKRMCCommandFFDData record =
-            DescribeItem(item, PidOf(exchange.Service(), parameter.key), parameter.data.size());
-        FillLimits(*converter, item, record);
         if (item.EndBit() > bits && item.bit < bits) {
-            complain(answer.line, "the data" + where + " ends within item " + item.id);
+            complain(answer.line, "the data" + where() + " ends within item " + item.id);
             continue;
         }
+        // Step 1: what the item is, into the message.
+        const Prepared& prepared = Prepare(item, parameter.command->request);
+        CKRMCCommandFFDData& record = *CKRMListIterator<CKRMCCommandFFDData>(items.AddTail(prepared.record));
+        record.m_cDataLayout.m_ulPidNo = PidOf(exchange.Service(), parameter.key);
+        record.m_cDataLayout.m_ulDataLen = static_cast<krm_ulong>(parameter.data.size());
         // Step 2: its value. An ECU may leave out the last items of a parameter; such an item has no display value.
         if (item.EndBit() <= bits) {
-            CKRMCCommandDispData display;
-            Convert(*converter, record, CutOut(item, parameter.data), record.m_cConversionTbl.m_lOffset, display);
-            record.m_cDispDataList.AddTail(display);
+            prepared.Convert(CutOut(item, parameter.data), prepared.record.m_cConversionTbl.m_lOffset,
+                             *begin(record.m_cDispDataList));
+        } else {
+            record.m_cDispDataList.RemoveAll();
         }
-        // Step 3: into the message.
-        items.AddTail(record);
     }
 }
 

@@ -53,20 +53,26 @@ bool Fits(const Bytes& request, const Bytes& answer) {
     }
 }
 
-/// Sorts frames into exchanges as they come.
-class Reader {
+// A bus that nobody answers on in the way of diagnosis must not fill the memory.
+constexpr std::size_t kMostStrangers = 4096;
+constexpr std::size_t kMostAnswers = 1024;
+
+}  // namespace
+
+/// Takes lines; holds the exchange under way and the one that is complete.
+class ExchangeReader::Sorter {
 public:
-    explicit Reader(const Complain& complain)
-        : m_complain([this, complain](std::size_t line, const std::string& what) {
+    explicit Sorter(Complain complain)
+        : m_complain([this, complain = std::move(complain)](std::size_t line, const std::string& what) {
               m_faultSinceRequest = true;
               complain(line, what);
           }),
           m_assembler(m_complain) {}
-    Reader(const Reader&) = delete;
-    Reader& operator=(const Reader&) = delete;
+    Sorter(const Sorter&) = delete;
+    Sorter& operator=(const Sorter&) = delete;
 
     void AddLine(std::string_view text, std::size_t line) {
-        if (text.find_first_not_of(" \t\r") == std::string_view::npos) {
+        if (std::all_of(text.begin(), text.end(), [](char c) { return c == ' ' || c == '\t' || c == '\r'; })) {
             return;
         }
         const std::variant<CanFrame, BadLine> parsed = ParseCandumpLine(text, line);
@@ -75,9 +81,14 @@ public:
             return;
         }
         const auto& frame = std::get<CanFrame>(parsed);
+        ++m_totals.frames;
+        if (frame.time != kNoTime) {
+            m_totals.first = m_totals.first == kNoTime ? frame.time : m_totals.first;
+            m_totals.last = frame.time;
+        }
         const bool isRequest = IsRequestId(frame.id);
         if (!isRequest && !IsAnswerId(frame.id)) {
-            if (m_strangers.insert(frame.id).second) {
+            if (m_strangers.size() < kMostStrangers && m_strangers.insert(frame.id).second) {
                 m_complain(line, "CAN ID " + HexOfId(frame.id) +
                                      " is neither a request's nor an answer's; its frames are left out");
             }
@@ -92,40 +103,48 @@ public:
         }
     }
 
-    std::vector<Exchange> Finish() {
+    /// The exchange that the last line completed.
+    std::optional<Exchange> Take() { return std::exchange(m_complete, std::nullopt); }
+
+    /// Nothing more comes at all.
+    void End() {
         EndExchange();
-        return std::move(m_exchanges);
+        m_complete = std::exchange(m_current, std::nullopt);
     }
+
+    const RecordingTotals& Totals() const { return m_totals; }
 
 private:
     /// Nothing more comes for the exchange under way.
     void EndExchange() {
         m_assembler.End();
         // A fault that was told in between is why the answer is missing: no second line for it.
-        if (!m_exchanges.empty() && m_exchanges.back().answers.empty() && !m_faultSinceRequest) {
-            const Exchange& last = m_exchanges.back();
-            m_complain(last.line, "request " + HexOf(last.request) +
-                                      (m_pending ? " has no answer but \"response pending\"" : " has no answer"));
+        if (m_current && m_current->answers.empty() && !m_faultSinceRequest) {
+            m_complain(m_current->line, "request " + HexOf(m_current->request) +
+                                            (m_pending ? " has no answer but \"response pending\"" : " has no answer"));
         }
     }
 
     void AddRequest(const IsoTpMessage& message) {
         EndExchange();
+        m_complete = std::move(m_current);
         m_faultSinceRequest = false;
         m_pending = false;
-        m_exchanges.push_back({m_exchanges.size() + 1, message.line, message.id, message.bytes, {}});
+        m_current = Exchange{++m_number, message.line, message.id, message.bytes, {}, message.time};
     }
 
     void AddAnswer(const IsoTpMessage& message) {
-        const std::string says = HexOfId(message.id) + " answers " +
-                                 HexOf(std::span(message.bytes).first(std::min<std::size_t>(message.bytes.size(), 3)));
-        if (m_exchanges.empty()) {
-            m_complain(message.line, says + " before any request");
+        const auto says = [&] {
+            return HexOfId(message.id) + " answers " +
+                   HexOf(std::span(message.bytes).first(std::min<std::size_t>(message.bytes.size(), 3)));
+        };
+        if (!m_current) {
+            m_complain(message.line, says() + " before any request");
             return;
         }
-        Exchange& exchange = m_exchanges.back();
+        Exchange& exchange = *m_current;
         if (!Fits(exchange.request, message.bytes)) {
-            m_complain(message.line, says + " to request " + HexOf(exchange.request));
+            m_complain(message.line, says() + " to request " + HexOf(exchange.request));
             return;
         }
         if (message.bytes[0] == 0x7F && message.bytes.size() >= 3 && message.bytes[2] == kResponsePending) {
@@ -138,27 +157,57 @@ private:
             m_complain(message.line,
                        HexOfId(message.id) + " answers request " + HexOf(exchange.request) + " a second time");
         }
-        exchange.answers.push_back({message.line, message.id, message.bytes});
+        if (exchange.answers.size() == kMostAnswers) {
+            m_complain(message.line, says() + " behind " + std::to_string(kMostAnswers) + " answers; it is left out");
+            return;
+        }
+        exchange.answers.push_back({message.line, message.id, message.bytes, message.time});
     }
 
     Complain m_complain;
     IsoTpAssembler m_assembler;
-    std::vector<Exchange> m_exchanges;
+    std::optional<Exchange> m_current;
+    std::optional<Exchange> m_complete;
+    std::size_t m_number = 0;
     std::set<std::uint32_t> m_strangers;
     bool m_faultSinceRequest = false;
     bool m_pending = false;
+    RecordingTotals m_totals;
 };
 
-}  // namespace
+ExchangeReader::ExchangeReader(ReadBytes read, Complain complain)
+    : m_lines(std::move(read)), m_sorter(std::make_unique<Sorter>(std::move(complain))) {}
+
+ExchangeReader::~ExchangeReader() = default;
+
+std::optional<Exchange> ExchangeReader::Next() {
+    for (std::string_view line; m_lines.Next(line);) {
+        m_sorter->AddLine(line, ++m_line);
+        if (std::optional<Exchange> exchange = m_sorter->Take()) {
+            return exchange;
+        }
+    }
+    m_sorter->End();
+    return m_sorter->Take();
+}
+
+const RecordingTotals& ExchangeReader::Totals() const {
+    return m_sorter->Totals();
+}
 
 std::vector<Exchange> ReadExchanges(std::string_view recording, const Complain& complain) {
-    Reader reader(complain);
-    for (std::size_t line = 1; !recording.empty(); ++line) {
-        const std::size_t end = std::min(recording.find('\n'), recording.size());
-        reader.AddLine(recording.substr(0, end), line);
-        recording.remove_prefix(std::min(end + 1, recording.size()));
+    ExchangeReader reader(
+        [&](char* buffer, std::size_t size) {
+            const std::size_t count = recording.copy(buffer, size);
+            recording.remove_prefix(count);
+            return count;
+        },
+        complain);
+    std::vector<Exchange> exchanges;
+    while (std::optional<Exchange> exchange = reader.Next()) {
+        exchanges.push_back(*std::move(exchange));
     }
-    return reader.Finish();
+    return exchanges;
 }
 
 }  // namespace diagnosis_session

@@ -60,7 +60,7 @@ std::optional<IsoTpMessage> IsoTpAssembler::AddSingle(Sender& sender, const CanF
         return std::nullopt;
     }
     const auto begin = frame.data.begin() + 1;
-    return IsoTpMessage{frame.line, frame.id, Bytes(begin, begin + static_cast<std::ptrdiff_t>(length))};
+    return IsoTpMessage{frame.line, frame.id, Bytes(begin, begin + static_cast<std::ptrdiff_t>(length)), frame.time};
 }
 
 void IsoTpAssembler::AddFirst(Sender& sender, const CanFrame& frame) {
@@ -80,7 +80,7 @@ void IsoTpAssembler::AddFirst(Sender& sender, const CanFrame& frame) {
     }
     sender.state = State::Receiving;
     sender.promised = length;
-    sender.message = {frame.line, frame.id, Bytes(frame.data.begin() + 2, frame.data.end())};
+    sender.message = {frame.line, frame.id, Bytes(frame.data.begin() + 2, frame.data.end()), frame.time};
 }
 
 std::optional<IsoTpMessage> IsoTpAssembler::AddConsecutive(Sender& sender, const CanFrame& frame) {

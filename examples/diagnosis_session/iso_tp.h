@@ -14,9 +14,10 @@ namespace diagnosis_session {
 
 /// A whole message of one sender.
 struct IsoTpMessage {
-    std::size_t line = 0;  ///< of its first frame
-    std::uint32_t id = 0;  ///< the CAN ID it was sent with
-    Bytes bytes;           ///< without the protocol's own bytes and without padding
+    std::size_t line = 0;         ///< of its first frame
+    std::uint32_t id = 0;         ///< the CAN ID it was sent with
+    Bytes bytes;                  ///< without the protocol's own bytes and without padding
+    Microseconds time = kNoTime;  ///< of its first frame
 };
 
 /// Collects the frames of every sender. A sender has one message at a time under way.

@@ -10,8 +10,10 @@
 // `cmd` names service and parameter ID in hexadecimal, `rax` the CAN ID of the ECU that answers. `fmt` says where the
 // value lies, counted in bits from the first data byte (`bix`, `len`), its scaling value = raw x `mul` / `div` + `add`
 // (1, 1, 0 where absent), `sign` for two's complement, `unit`, the limits `min` and `max`, and for enumerated items
-// `map`: raw value in decimal to {"value": TEXT}. `dtcs`, an addition of this program's, names trouble codes. Other
-// members are for others.
+// `map`: raw value in decimal to {"value": TEXT}. `dtcs`, an addition of this program's, names trouble codes, and so is
+// the unit `dtc`, of a value that is a trouble code. What else the community's format has is accepted and not used;
+// any other member is a fault, for a misspelled one would change what a value means. items.schema.json beside the
+// example's own table says the same to editors.
 #ifndef KRM_EXAMPLES_DIAGNOSIS_SESSION_ITEM_TABLE_H_
 #define KRM_EXAMPLES_DIAGNOSIS_SESSION_ITEM_TABLE_H_
 
@@ -22,6 +24,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -43,6 +46,7 @@ struct Item {
     Scaling scaling;         ///< without decimals where the item has a map
     std::optional<double> min;
     std::optional<double> max;
+    unsigned char decimals = 0;  ///< that its scaling has: how many show one raw step
     bool hasMap = false;
     std::vector<std::pair<std::uint32_t, std::string>> map;  ///< raw value to text
 
@@ -59,11 +63,18 @@ struct ItemCommand {
     std::size_t DataLength() const;
 };
 
+/// The members that objects of the table may have, used or not: one name for each object as in items.schema.json.
+struct ItemTableKeys {
+    const char* object;
+    std::vector<const char*> keys;
+};
+const std::vector<ItemTableKeys>& KeysOfItemTable();
+
 class ItemTable {
 public:
     ItemTable() = default;
 
-    /// Reads the table. Tells what it can't read, with the line; the rest is there.
+    /// Reads the table. Tells what it can't read, with line and column; the rest is there.
     static ItemTable Parse(std::string_view json, const Complain& complain);
 
     /// The command of `request` (service and parameter ID) for the ECU that answers with `ecu`, or null. A command that
@@ -80,6 +91,7 @@ public:
 
 private:
     std::vector<ItemCommand> m_commands;
+    std::unordered_map<std::string, std::vector<std::size_t>> m_commandsByRequest;  ///< in the table's order
     std::map<std::string, std::string> m_troubleCodes;
     bool m_usable = false;
 };

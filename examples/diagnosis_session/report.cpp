@@ -1,149 +1,196 @@
 #include "report.h"
 
 #include <algorithm>
-#include <utility>
 
+#include "engine.h"
 #include "hex.h"
+#include "operation_log_file.h"
 
 namespace diagnosis_session {
 namespace {
 
+constexpr std::size_t kLongestName = 56;
+constexpr std::size_t kValueWidth = 20;
+constexpr std::size_t kTimeWidth = 10;
+/// A recording that names more than this was not made by a vehicle.
+constexpr std::size_t kMostInSummary = 1000;
+
 /// Characters of a UTF-8 text: all bytes but those that continue one.
-std::size_t WidthOf(const std::string& text) {
+std::size_t WidthOf(std::string_view text) {
     return static_cast<std::size_t>(std::count_if(
         text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
-void PrintTable(std::ostream& out, const std::string& title, const std::vector<std::vector<std::string>>& rows) {
-    if (rows.empty()) {
-        return;
-    }
-    std::vector<std::size_t> widths;
-    for (const auto& row : rows) {
-        widths.resize(std::max(widths.size(), row.size()));
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            widths[i] = std::max(widths[i], WidthOf(row[i]));
-        }
-    }
-    out << title << '\n';
-    for (const auto& row : rows) {
-        std::string line = "  ";
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            line += (i == 0 ? "" : " | ") + row[i] + std::string(widths[i] - WidthOf(row[i]), ' ');
-        }
-        line.erase(line.find_last_not_of(' ') + 1);
-        out << line << '\n';
-    }
-    out << '\n';
+std::string Blanks(std::size_t width, std::string_view text) {
+    return std::string(width - std::min(width, WidthOf(text)), ' ');
 }
 
-std::string CsvField(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) {
-        return text;
-    }
-    std::string quoted = "\"";
-    for (const char character : text) {
-        quoted += character == '"' ? "\"\"" : std::string(1, character);
-    }
-    return quoted + '"';
-}
-
-std::string Count(std::size_t number, const char* what) {
+std::string Count(std::uint64_t number, const char* what) {
     return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
+}
+
+/// Text of a vehicle or a table on one line, whatever it holds.
+std::string OnOneLine(std::string_view text) {
+    std::string line(text);
+    for (char& character : line) {
+        const bool isControl = (character >= 0 && character < ' ') || character == '\x7F';
+        character = isControl ? '?' : character;
+    }
+    return line;
 }
 
 }  // namespace
 
-void Report::AddEcu(std::uint32_t ecu, bool connected, const std::string& description) {
-    m_vehicle.push_back({"ECU " + HexOfId(ecu), connected ? "connected" : "not connected", description});
+Report::Report(TextStream& out, std::size_t nameWidth)
+    : m_out(out), m_nameWidth(std::clamp<std::size_t>(nameWidth, 8, kLongestName)) {}
+
+void Report::Begin(const RecordingInfo& recording, bool isKnown) {
+    m_out << "Recording  " << OnOneLine(recording.file) << '\n';
+    if (isKnown) {
+        Head(recording);
+        m_headWritten = true;
+    }
 }
 
-void Report::AddVin(std::uint32_t ecu, const std::string& vin) {
-    m_vehicle.push_back({"ECU " + HexOfId(ecu), "VIN", vin});
-}
-
-void Report::AddSupport(std::uint32_t ecu, const CKRMList<unsigned char>& mask) {
-    std::string pids;
-    std::uint8_t pid = 0;
-    for (const unsigned char byte : mask) {
-        for (unsigned bit = 0x80; bit != 0; bit >>= 1U) {
-            ++pid;
-            // PIDs 20, 40 ... only say that there is a further mask.
-            if ((byte & bit) != 0 && pid % 0x20 != 0) {
-                pids += (pids.empty() ? "" : " ") + HexOf({&pid, 1});
-            }
+void Report::Head(const RecordingInfo& recording) {
+    const RecordingTotals& totals = recording.totals;
+    m_out << "           " << Count(totals.frames, "frame");
+    if (totals.first != kNoTime) {
+        m_out << " in " << Seconds(totals.last - totals.first, 1) << " s";
+        if (HasDate(totals.first)) {
+            m_out << " from " << TimeText(totals.first).substr(0, 19) << " UTC";
         }
     }
-    if (mask.GetCount() != 0) {
-        m_vehicle.push_back({"ECU " + HexOfId(ecu), "live data", pids});
+    m_out << '\n';
+    m_out << (recording.ecus.size() == 1 ? "ECU        " : "ECUs       ");
+    for (std::size_t i = 0; i < recording.ecus.size(); ++i) {
+        m_out << (i == 0 ? "" : ", ") << HexOfId(recording.ecus[i]);
+    }
+    m_out << (recording.ecus.empty() ? "none answers\n" : "\n");
+}
+
+void Report::Group(const std::string& name) {
+    if (m_group != name) {
+        m_group = name;
+        m_out << '\n' << name << '\n';
     }
 }
 
-void Report::AddTroubleCodes(std::uint32_t ecu, const std::string& kind, const CKRMCGetDTCCmdAdaptDataRcv& answer) {
+void Report::BeginRow(const Moment& moment) {
+    const bool hasTime = moment.time != kNoTime && moment.start != kNoTime;
+    const std::string time = hasTime ? Seconds(moment.time - moment.start, 3) : "-";
+    const std::string ecu = HexOfId(moment.ecu);
+    m_out << Blanks(kTimeWidth, time) << time << "  " << ecu << "  ";
+}
+
+void Report::Row(std::string_view name, std::string_view value, std::string_view unit) {
+    m_out << name << Blanks(m_nameWidth, name) << ' ' << Blanks(kValueWidth, value) << value;
+    if (!unit.empty()) {
+        m_out << (unit == "°" ? "" : " ") << unit;
+    }
+    m_out << '\n';
+}
+
+void Report::Vin(const Moment& moment, const std::string& vin) {
+    Group("Vehicle");
+    BeginRow(moment);
+    Row("Vehicle identification number", vin, "");
+    if (m_vins.size() < kMostInSummary) {
+        m_vins.insert(vin);
+    }
+}
+
+void Report::Supported(std::uint32_t ecu, const CKRMList<unsigned char>& mask) {
+    std::string text;
+    for (const std::uint8_t pid : PidsOf(mask)) {
+        text += (text.empty() ? "" : " ") + HexOf({&pid, 1});
+    }
+    if (!text.empty()) {
+        m_out << HexOfId(ecu) << "        supports PIDs " << text << '\n';
+    }
+}
+
+void Report::TroubleCodes(const Moment& moment, const std::string& kind, const CKRMCGetDTCCmdAdaptDataRcv& answer) {
+    Group("Trouble codes");
     if (answer.Data.GetCount() == 0) {
-        m_troubleCodes.push_back({"ECU " + HexOfId(ecu), kind, "none"});
+        BeginRow(moment);
+        m_out << kind << Blanks(9, kind) << "  none\n";
     }
     for (const CKRMCCommandDTCData& code : answer.Data) {
-        Row row = {"ECU " + HexOfId(ecu), code.m_strDTCTypeName.GetText(), code.m_strDTC.GetText()};
-        if (code.m_strDTCName.GetLength() != 0) {
-            row.emplace_back(code.m_strDTCName.GetText());
+        BeginRow(moment);
+        const std::string name = code.m_strDTC.GetText();
+        const std::string text = OnOneLine(code.m_strDTCName.GetText());
+        m_out << kind << Blanks(9, kind) << "  " << name << (text.empty() ? "" : "  ") << text << '\n';
+        if (m_codes.size() < kMostInSummary || m_codes.contains(name)) {
+            Code& known = m_codes[name];
+            known.text = text;
+            known.where.insert(kind + " in " + HexOfId(moment.ecu));
         }
-        m_troubleCodes.push_back(std::move(row));
     }
 }
 
-void Report::AddClearing(std::uint32_t ecu, krm_ulong refusal) {
-    m_troubleCodes.push_back({"ECU " + HexOfId(ecu), refusal == 0 ? "cleared" : "not cleared"});
+void Report::Clearing(const Moment& moment, krm_ulong refusal) {
+    Group("Trouble codes");
+    BeginRow(moment);
+    m_out << (refusal == 0 ? "cleared" : "not cleared: the ECU refused") << '\n';
 }
 
-void Report::AddValues(std::size_t exchange, const std::string& request, std::uint32_t ecu,
-                       const CKRMList<CKRMCCommandFFDData>& items) {
+void Report::Values(const Moment& moment, const CKRMList<CKRMCCommandFFDData>& items) {
+    if (items.GetCount() == 0) {
+        return;
+    }
+    Group(moment.freezeFrame                                   ? "Freeze frame " + std::to_string(*moment.freezeFrame)
+          : std::string_view(moment.request).starts_with("01") ? "Live values"
+                                                               : "Other values");
     for (const CKRMCCommandFFDData& item : items) {
-        Value value{exchange, request, HexOfId(ecu), item.m_strFFDText.GetText(), item.m_strName.GetText(), false, "",
-                    "",       ""};
-        for (const CKRMCCommandDispData& display : item.m_cDispDataList) {
-            value.isThere = true;
-            value.raw = std::to_string(display.m_ulRawData);
-            value.value = display.m_strData.GetText();
-            value.unit = item.m_strUnit.GetText();
+        BeginRow(moment);
+        const std::string_view name =
+            item.m_strName.GetLength() != 0 ? item.m_strName.GetText() : item.m_strFFDText.GetText();
+        const std::string shownName = OnOneLine(name);
+        if (item.m_cDispDataList.GetCount() == 0) {
+            Row(shownName, "not in the answer", "");
+            continue;
         }
-        m_values.push_back(std::move(value));
-    }
-}
-
-void Report::AddMonitor(std::uint32_t ecu, std::size_t items, std::size_t polls, std::size_t values) {
-    m_monitors.push_back({"ECU " + HexOfId(ecu), Count(items, "item"), Count(polls, "poll"), Count(values, "value")});
-}
-
-std::size_t Report::ValueCount() const {
-    return static_cast<std::size_t>(
-        std::count_if(m_values.begin(), m_values.end(), [](const Value& value) { return value.isThere; }));
-}
-
-void Report::Print(std::ostream& out) const {
-    PrintTable(out, "Vehicle", m_vehicle);
-    PrintTable(out, "Trouble codes", m_troubleCodes);
-    std::vector<Row> rows;
-    if (!m_values.empty()) {
-        rows.push_back({"exchange", "request", "ECU", "item", "raw", "value", "unit", "name"});
-    }
-    for (const Value& value : m_values) {
-        rows.push_back({std::to_string(value.exchange), value.request, value.ecu, value.item,
-                        value.isThere ? value.raw : "-", value.isThere ? value.value : "not in the answer", value.unit,
-                        value.name});
-    }
-    PrintTable(out, "Values", rows);
-    PrintTable(out, "Data monitor", m_monitors);
-}
-
-void Report::WriteCsv(std::ostream& out) const {
-    out << "exchange,request,item,raw,value,unit\n";
-    for (const Value& value : m_values) {
-        if (value.isThere) {
-            out << value.exchange << ',' << value.request << ',' << CsvField(value.item) << ',' << value.raw << ','
-                << CsvField(value.value) << ',' << CsvField(value.unit) << '\n';
+        const CKRMCCommandDispData& value = *begin(item.m_cDispDataList);
+        const bool isNumber = value.m_ulDispDataType == static_cast<krm_ulong>(DisplayKind::Number);
+        if (isNumber) {
+            Row(shownName, value.m_strData.GetText(), item.m_strUnit.GetText());
+        } else {
+            Row(shownName, OnOneLine(value.m_strData.GetText()), "");
         }
     }
+    m_out.FlushIfMuch();
+}
+
+void Report::End(const SessionSummary& summary) {
+    if (!m_headWritten) {
+        m_out << '\n';
+        Head(summary.recording);
+    }
+    if (!m_vins.empty() || !m_codes.empty()) {
+        m_out << "\nSummary\n";
+    }
+    for (const std::string& vin : m_vins) {
+        m_out << "  VIN " << vin << '\n';
+    }
+    for (const auto& [name, code] : m_codes) {
+        m_out << "  " << name << "  ";
+        std::size_t width = 0;
+        for (const std::string& where : code.where) {
+            m_out << (width == 0 ? "" : ", ") << where;
+            width += where.size() + (width == 0 ? 0 : 2);
+        }
+        m_out << (code.text.empty() ? "" : ": ") << code.text << '\n';
+    }
+    m_out << '\n'
+          << Count(summary.exchanges, "exchange") << ", " << Count(summary.values, "value") << ", "
+          << (summary.faults == 0 ? "no faults" : Count(summary.faults, "fault"));
+    m_out << (summary.interrupted ? "; interrupted, the rest of the recording was not decoded" : "");
+    for (std::size_t i = 0; i < summary.written.size(); ++i) {
+        m_out << (i == 0 ? "; written: " : ", ") << summary.written[i];
+    }
+    m_out << '\n';
+    m_out.Flush();
 }
 
 }  // namespace diagnosis_session

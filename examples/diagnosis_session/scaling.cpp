@@ -197,4 +197,23 @@ std::optional<Scaling> ScalingOf(std::string_view mulText, std::string_view divT
     return nearest;
 }
 
+unsigned char DecimalsOf(const Scaling& scaling) {
+    constexpr int kFew = 3;
+    const double unit = std::pow(10.0, scaling.decimals);
+    const double step = std::abs(static_cast<double>(scaling.mul) / scaling.div) / unit;
+    const double offset = scaling.offset / unit;
+    const auto isWhole = [](double value) { return std::abs(value - std::round(value)) < 1e-9; };
+    for (int decimals = 0; decimals <= kFew; ++decimals) {
+        const double power = std::pow(10.0, decimals);
+        if (isWhole(step * power) && isWhole(offset * power) && (step == 0 || std::round(step * power) > 0)) {
+            return static_cast<unsigned char>(decimals);
+        }
+    }
+    int decimals = 0;
+    while (decimals < kShownDecimals && step * std::pow(10.0, decimals) < 1) {
+        ++decimals;
+    }
+    return static_cast<unsigned char>(decimals);
+}
+
 }  // namespace diagnosis_session

@@ -9,7 +9,7 @@
 
 namespace diagnosis_session {
 
-/// The decimal places that every number is shown with.
+/// The decimal places of every physical value, and the most that a person is shown.
 inline constexpr unsigned char kShownDecimals = 5;
 
 /// The scaling of a conversion record: value = (raw x mul / div + offset) / 10^decimals.
@@ -28,6 +28,10 @@ struct Scaling {
 /// gets wrong by as much as a tenth of the last place shown. Nothing when that can't be had, a text is no number or
 /// `div` is 0.
 std::optional<Scaling> ScalingOf(std::string_view mul, std::string_view div, std::string_view add, unsigned bits);
+
+/// The decimal places that show one raw step of the scaling: all that the step has, if they are few (0.25 has two), else as
+/// many as it takes to see one step (0.392... takes one). At most kShownDecimals.
+unsigned char DecimalsOf(const Scaling& scaling);
 
 }  // namespace diagnosis_session
 

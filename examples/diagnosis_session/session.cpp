@@ -1,83 +1,29 @@
 #include "session.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
-#include <set>
 #include <system_error>
 
+#include "application.h"
 #include "complaints.h"
 #include "engine.h"
 #include "exchange.h"
 #include "item_table.h"
+#include "json_output.h"
 #include "operation_log_file.h"
+#include "options.h"
+#include "progress.h"
+#include "recording_file.h"
 #include "report.h"
+#include "values_file.h"
 
 namespace diagnosis_session {
 namespace {
-
-constexpr const char* kUsage =
-    "usage: diagnosis_session [RECORDING [ITEMS]] [--log FILE] [--values FILE] [--help]\n"
-    "\n"
-    "Decodes what a vehicle said in a recording.\n"
-    "\n"
-    "  RECORDING      as `candump -l` writes it; default: the example's own\n"
-    "  ITEMS          JSON table of the values in the answers; default: the example's own\n"
-    "  --log FILE     operation log of every message; default: diagnosis_session.log\n"
-    "  --values FILE  every value as CSV: exchange,request,item,raw,value,unit\n"
-    "  --help         this text\n"
-    "\n"
-    "Exit status: 0 all decoded; 1 parts of the input were bad (told on standard error, the rest is decoded); 2 bad\n"
-    "arguments, or a file that can't be read or written.\n";
-
-struct Options {
-    std::optional<std::string> recording;
-    std::optional<std::string> items;
-    std::string log = "diagnosis_session.log";
-    std::optional<std::string> values;
-    bool help = false;
-};
-
-/// What is wrong with the command line.
-struct UsageError {
-    std::string what;
-};
-
-Options ParseArguments(const std::vector<std::string>& arguments) {
-    Options options;
-    bool onlyFiles = false;
-    for (std::size_t i = 1; i < arguments.size(); ++i) {
-        const std::string& argument = arguments[i];
-        const bool isOption = !onlyFiles && argument.size() > 1 && argument[0] == '-';
-        if (isOption && argument == "--") {
-            onlyFiles = true;
-        } else if (isOption && argument == "--help") {
-            options.help = true;
-        } else if (isOption && (argument == "--log" || argument == "--values")) {
-            if (i + 1 == arguments.size() || arguments[i + 1].empty()) {
-                throw UsageError{argument + " needs a file"};
-            }
-            ++i;
-            if (argument == "--log") {
-                options.log = arguments[i];
-            } else {
-                options.values = arguments[i];
-            }
-        } else if (isOption) {
-            throw UsageError{"unknown option " + argument};
-        } else if (argument.empty()) {
-            throw UsageError{"an empty file name"};
-        } else if (!options.recording) {
-            options.recording = argument;
-        } else if (!options.items) {
-            options.items = argument;
-        } else {
-            throw UsageError{"one argument too many: " + argument};
-        }
-    }
-    return options;
-}
 
 /// The example's own input: in the source tree that it was built from, or near the program.
 std::string OwnFile(const std::string& program, const char* name) {
@@ -92,263 +38,175 @@ std::string OwnFile(const std::string& program, const char* name) {
     return name;
 }
 
-/// The whole file; nothing where it can't be read.
-std::optional<std::string> ReadFile(const std::string& path) {
+std::string ReadWholeFile(const std::string& path) {
     std::error_code ignored;
-    if (std::filesystem::is_directory(path, ignored)) {
-        return std::nullopt;
-    }
+    errno = 0;
+    const bool isDirectory = std::filesystem::is_directory(path, ignored);
     std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        return std::nullopt;
+    if (isDirectory || !file) {
+        throw FileError(path + ": cannot be read: " + ReasonOf(isDirectory ? EISDIR : errno));
     }
     std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    return file.bad() ? std::nullopt : std::optional(std::move(text));
+    if (file.bad()) {
+        throw FileError(path + ": cannot be read: " + ReasonOf(errno));
+    }
+    return text;
 }
 
+/// Whether both paths lead to the same file, by whatever name. Devices take what they are given, again and again.
 bool IsSameFile(const std::string& left, const std::string& right) {
     std::error_code error;
+    if (std::filesystem::exists(left, error) && !std::filesystem::is_regular_file(left, error)) {
+        return false;
+    }
     return left == right || std::filesystem::equivalent(left, right, error);
 }
 
-// ---- The application ----
-
-/// Asks the engine one question. Both messages go into the operation log, a line for each of their fields.
-template <class Request, class Reply>
-void Ask(DiagnosisEngine& engine, Request& request, Reply& reply) {
-    request.ErrWriteOperationLog();
-    engine.Answer(request, reply);
-    reply.ErrWriteOperationLog();
+void CheckOutputs(const Options& options, const std::string& recording, const std::string& items) {
+    for (const std::optional<std::string>& output : {options.operationLog, options.values}) {
+        if (output && (IsSameFile(*output, recording) || IsSameFile(*output, items))) {
+            throw FileError(*output + ": is an input; it will not be overwritten");
+        }
+    }
+    if (options.operationLog && options.values && IsSameFile(*options.operationLog, *options.values)) {
+        throw FileError(*options.values + ": can't be both operation log and values");
+    }
 }
 
-/// Asks which ECUs there are and connects to each. Returns those that are connected.
-std::vector<krm_ulong> ConnectEcus(DiagnosisEngine& engine, Report& report) {
-    CKRMCGetGroupEcuListCmdAdaptDataSnd listRequest;
-    CKRMCGetGroupEcuListCmdAdaptDataRcv list;
-    Ask(engine, listRequest, list);
+std::size_t LongestName(const ItemTable& table) {
+    std::size_t longest = 0;
+    for (const ItemCommand& command : table.Commands()) {
+        for (const Item& item : command.items) {
+            longest = std::max(longest, item.name.empty() ? item.id.size() : item.name.size());
+        }
+    }
+    return longest;
+}
 
-    std::vector<krm_ulong> connected;
-    for (const CKRMCCommandEcuGroupData& group : list.Data) {
-        for (const CKRMCCommandEcuData& ecu : group.m_cEcuList) {
-            CKRMCEcuConnectCmdAdaptDataSnd request;
-            request.m_ulEcuId = ecu.m_ulEcuId;
-            request.m_ushGroupId = group.m_ushGroupId;
-            request.m_ushBusId = ecu.m_ushBusId;
-            CKRMCEcuConnectCmdAdaptDataRcv reply;
-            Ask(engine, request, reply);
-            report.AddEcu(reply.m_ulEcuId, reply.m_bConnect, reply.m_strDescription.GetText());
-            if (reply.m_bConnect) {
-                connected.push_back(reply.m_ulEcuId);
+std::string Amount(std::uint64_t number, const char* what) {
+    return " (" + std::to_string(number) + ' ' + what + (number == 1 ? ")" : "s)");
+}
+
+/// Everything that the options ask for, over a recording that is open.
+int Run(const Options& options, const std::string& program, std::ostream& out, std::ostream& err,
+        const Surroundings& surroundings) {
+    const std::string recordingPath = options.recording.value_or(OwnFile(program, "session.log"));
+    const std::string itemsPath = options.items.value_or(OwnFile(program, "session.items.json"));
+    CheckOutputs(options, recordingPath, itemsPath);
+    RecordingFile file(recordingPath);
+    const std::string itemsText = ReadWholeFile(itemsPath);
+    std::optional<OperationLogFile> log;
+    std::optional<ValuesFile> values;
+    if (options.operationLog) {
+        log.emplace(*options.operationLog);
+    }
+    if (options.values) {
+        values.emplace(*options.values);
+    }
+
+    Progress progress(err);
+    TextStream text(out, "standard output");
+    Complaints complaints(err);
+    text.BeforeWriting([&] { progress.Hide(); });
+    complaints.BeforeTelling([&] { progress.Hide(); });
+    const ItemTable table = ItemTable::Parse(itemsText, complaints.About(itemsPath));
+    const Complain complain = complaints.About(file.Name());
+
+    // Now and then: what is found out so far becomes visible, and how far it is.
+    auto shown = std::chrono::steady_clock::now();
+    const char* doing = "surveying";
+    unsigned untilNext = 0;
+    const auto goOn = [&](std::uint64_t exchanges) {
+        if (surroundings.interrupt != nullptr && *surroundings.interrupt != 0) {
+            return false;
+        }
+        // Asking for the time costs as much as a short exchange.
+        if (++untilNext % 64 == 0) {
+            const auto now = std::chrono::steady_clock::now();
+            if (now - shown > std::chrono::milliseconds(200)) {
+                shown = now;
+                text.Flush();
+                if (surroundings.hasTerminal) {
+                    progress.Show(doing, file.BytesRead(), file.Size(), exchanges);
+                }
             }
         }
-    }
-    return connected;
-}
+        return true;
+    };
 
-void ReadVin(DiagnosisEngine& engine, const EcuAnswer& said, Report& report) {
-    CKRMCGetVinCodeCmdAdaptDataSnd request;
-    request.m_ulEcuId = said.ecu;
-    CKRMCGetVinCodeCmdAdaptDataRcv reply;
-    Ask(engine, request, reply);
-    if (reply.m_strVinCode.GetLength() != 0) {
-        report.AddVin(said.ecu, reply.m_strVinCode.GetText());
+    // A file is read twice: first for what stands at the head of the report, then for what is said in it.
+    std::optional<ExchangeReader> reader;
+    const auto open = [&](Complain to) {
+        reader.emplace([&](char* buffer, std::size_t size) { return file.Read(buffer, size); }, std::move(to));
+    };
+    DiagnosisEngine engine(
+        table, [&] { return reader->Next(); }, [&] { return reader->Totals(); }, complain);
+    bool interrupted = false;
+    if (file.CanRewind()) {
+        open([](const Place&, const std::string&) {});
+        engine.Survey(
+            [&]() -> std::optional<Exchange> {
+                interrupted = interrupted || !goOn(0);
+                return interrupted ? std::nullopt : reader->Next();
+            },
+            [&] { return reader->Totals(); });
+        file.Rewind();
     }
-}
+    doing = "decoding";
+    open(complain);
+    file.BeforeWaiting([&] { text.Flush(); });
 
-void ReadTroubleCodes(DiagnosisEngine& engine, const EcuAnswer& said, DtcPhase phase, const char* kind,
-                      Report& report) {
-    // Step 1: construct the request, which has its command type and ID by that, and set its fields.
-    CKRMCGetDTCCmdAdaptDataSnd request;
-    request.m_ulEcuId = said.ecu;
-    request.m_uchPhaseType = static_cast<unsigned char>(phase);
-    // Step 2: the engine fills the answer, a record for each code.
-    CKRMCGetDTCCmdAdaptDataRcv reply;
-    Ask(engine, request, reply);
-    // Step 3: read the records.
-    if (!said.IsNegative()) {
-        report.AddTroubleCodes(said.ecu, kind, reply);
+    std::unique_ptr<Output> report;
+    if (options.json) {
+        report = std::make_unique<JsonOutput>(text);
+    } else {
+        report = std::make_unique<Report>(text, LongestName(table));
     }
-}
+    Application::Settings settings;
+    settings.recordingName = file.Name() + (file.IsEmpty() ? " is empty" : "");
+    settings.units = options.units;
+    settings.log = log ? &*log : nullptr;
+    settings.outputs = {report.get()};
+    if (values) {
+        settings.outputs.push_back(&*values);
+    }
+    settings.goOn = goOn;
+    SessionSummary summary = Application(engine, std::move(settings)).Run();
+    summary.interrupted = summary.interrupted || (surroundings.interrupt != nullptr && *surroundings.interrupt != 0);
 
-void ClearTroubleCodes(DiagnosisEngine& engine, const EcuAnswer& said, Report& report) {
-    CKRMCClearDTCCmdAdaptDataSnd request;
-    request.m_ulEcuId = said.ecu;
-    CKRMCClearDTCCmdAdaptDataRcv reply;
-    Ask(engine, request, reply);
-    report.AddClearing(said.ecu, reply.m_ulResult);
-}
-
-void ReadValues(DiagnosisEngine& engine, const Exchange& exchange, const EcuAnswer& said, Report& report) {
-    CKRMCGetFFDCmdAdaptDataSnd request;
-    request.m_ulEcuId = said.ecu;
-    // The PIDs asked for: one byte each, with the number of the freeze frame behind it in service 02, two in service 22.
-    const Bytes& bytes = exchange.request;
-    const bool two = exchange.Service() == 0x02 || exchange.Service() == 0x22;
-    for (std::size_t i = 1; i + (two ? 1 : 0) < bytes.size(); i += two ? 2 : 1) {
-        if (exchange.Service() == 0x22) {
-            request.m_cPidId.AddTail(static_cast<unsigned short>(bytes[i] << 8U | bytes[i + 1]));
-        } else {
-            request.m_cPidId.AddTail(bytes[i]);
-        }
-        if (exchange.Service() == 0x02) {
-            request.m_uchFFDId = bytes[i + 1];
-        }
+    progress.Hide();
+    if (values) {
+        values->Close();
+        summary.written.push_back("values " + *options.values + Amount(values->RowCount(), "row"));
     }
-    CKRMCGetFFDCmdAdaptDataRcv reply;
-    Ask(engine, request, reply);
-    report.AddValues(exchange.number, HexOf(exchange.request), said.ecu, reply.Data);
-}
-
-/// Runs a data monitor on one ECU: lists what there is to watch, starts, and polls until nothing comes any more.
-void RunDataMonitor(DiagnosisEngine& engine, krm_ulong ecu, unsigned short monitorId, Report& report) {
-    CKRMCGetDataMonitorListCmdAdaptDataSnd listRequest;
-    listRequest.m_ulEcuId = ecu;
-    CKRMCGetDataMonitorListCmdAdaptDataRcv list;
-    Ask(engine, listRequest, list);
-    report.AddSupport(ecu, list.m_uchA8SupportData);
-    if (list.Data.GetCount() == 0) {
-        return;
+    if (log) {
+        log->Close();
+        summary.written.push_back("operation log " + *options.operationLog + Amount(log->LineCount(), "line"));
     }
-
-    // Watch everything that is listed. Several items may lie in the answer to one PID.
-    std::set<krm_ulong> pids;
-    for (const CKRMCCommandFFDData& item : list.Data) {
-        pids.insert(item.m_cDataLayout.m_ulPidNo);
+    summary.faults = complaints.Count();
+    report->End(summary);
+    complaints.TellRest();
+    if (summary.interrupted) {
+        err << "diagnosis_session: interrupted; what was decoded until then is there\n";
     }
-    CKRMCCommandStartDataMonitorData watched;
-    watched.m_ushDataMonitorId = monitorId;
-    watched.m_ulEcuId = ecu;
-    for (const krm_ulong pid : pids) {
-        watched.m_cPidIdList.AddTail(static_cast<unsigned short>(pid));
-    }
-    CKRMCStartDataMonitorCmdAdaptDataSnd start;
-    start.m_ulEcuId = ecu;
-    start.Data.AddTail(watched);
-    CKRMCStartDataMonitorCmdAdaptDataRcv started;
-    Ask(engine, start, started);
-    if (!started.m_bDataMonitorEnable) {
-        return;
-    }
-
-    // No command stops a monitor: it ends when nobody polls it any more.
-    std::size_t polls = 0;
-    std::size_t values = 0;
-    while (true) {
-        CKRMCGetDataMonitorValueCmdAdaptDataSnd poll;
-        poll.m_ulEcuId = ecu;
-        poll.m_ushDataMonitorId = monitorId;
-        CKRMCGetDataMonitorValueCmdAdaptDataRcv reply;
-        Ask(engine, poll, reply);
-        if (reply.Data.GetCount() == 0) {
-            break;
-        }
-        ++polls;
-        for (const CKRMCCommandFFDData& item : reply.Data) {
-            values += static_cast<std::size_t>(item.m_cDispDataList.GetCount());
-        }
-    }
-    report.AddMonitor(ecu, static_cast<std::size_t>(list.Data.GetCount()), polls, values);
-}
-
-/// The whole session, in the recording's order.
-void RunSession(const std::vector<Exchange>& recording, DiagnosisEngine& engine, Report& report) {
-    const std::vector<krm_ulong> ecus = ConnectEcus(engine, report);
-    for (const Exchange& exchange : recording) {
-        const bool isVin = exchange.request == Bytes{0x09, 0x02};
-        for (const EcuAnswer& said : exchange.answers) {
-            engine.Hear(exchange, said);
-            if (isVin) {
-                ReadVin(engine, said, report);
-            } else if (exchange.request == Bytes{0x03}) {
-                ReadTroubleCodes(engine, said, DtcPhase::Stored, "stored", report);
-            } else if (exchange.request == Bytes{0x07}) {
-                ReadTroubleCodes(engine, said, DtcPhase::Pending, "pending", report);
-            } else if (exchange.request == Bytes{0x0A}) {
-                ReadTroubleCodes(engine, said, DtcPhase::Permanent, "permanent", report);
-            } else if (exchange.request == Bytes{0x04}) {
-                ClearTroubleCodes(engine, said, report);
-            } else {
-                ReadValues(engine, exchange, said, report);
-            }
-        }
-        engine.EndExchange(exchange);
-    }
-    unsigned short monitorId = 0;
-    for (const krm_ulong ecu : ecus) {
-        RunDataMonitor(engine, ecu, ++monitorId, report);
-    }
+    return complaints.Count() == 0 && !summary.interrupted ? kGood : kBadInput;
 }
 
 }  // namespace
 
-int RunDiagnosisSession(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
-    Options options;
+int RunDiagnosisSession(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err,
+                        const Surroundings& surroundings) {
+    const CommandLine line = ReadCommandLine(arguments);
+    if (line.answer) {
+        (line.isWrong ? err : out) << *line.answer;
+        return line.isWrong ? kFailed : kGood;
+    }
     try {
-        options = ParseArguments(arguments);
-    } catch (const UsageError& error) {
-        err << "diagnosis_session: " << error.what << '\n' << kUsage;
+        return Run(line.options, arguments.empty() ? "" : arguments[0], out, err, surroundings);
+    } catch (const FileError& error) {
+        err << "diagnosis_session: " << error.what() << '\n';
         return kFailed;
     }
-    if (options.help) {
-        out << kUsage;
-        return kGood;
-    }
-
-    const std::string program = arguments.empty() ? "" : arguments[0];
-    const std::string recordingFile = options.recording.value_or(OwnFile(program, "session.log"));
-    const std::string itemsFile = options.items.value_or(OwnFile(program, "session.items.json"));
-    const std::optional<std::string> recordingText = ReadFile(recordingFile);
-    const std::optional<std::string> itemsText = ReadFile(itemsFile);
-    if (!recordingText || !itemsText) {
-        err << (recordingText ? itemsFile : recordingFile) << ": cannot be read\n";
-        return kFailed;
-    }
-    for (const std::string& output : {options.log, options.values.value_or(options.log)}) {
-        if (IsSameFile(output, recordingFile) || IsSameFile(output, itemsFile)) {
-            err << output << ": is an input; it will not be overwritten\n";
-            return kFailed;
-        }
-    }
-    if (options.values && IsSameFile(options.log, *options.values)) {
-        err << options.log << ": can't be both operation log and values\n";
-        return kFailed;
-    }
-    OperationLogFile log(options.log);
-    if (!log.IsGood()) {
-        err << options.log << ": cannot be written\n";
-        return kFailed;
-    }
-    std::ofstream values;
-    if (options.values) {
-        values.open(*options.values, std::ios::binary);
-        if (!values) {
-            err << *options.values << ": cannot be written\n";
-            return kFailed;
-        }
-    }
-
-    Complaints complaints(err);
-    const ItemTable table = ItemTable::Parse(*itemsText, complaints.About(itemsFile));
-    const std::vector<Exchange> recording = ReadExchanges(*recordingText, complaints.About(recordingFile));
-    DiagnosisEngine engine(table, recording, complaints.About(recordingFile));
-    Report report;
-    RunSession(recording, engine, report);
-
-    report.Print(out);
-    out << recording.size() << " exchanges, " << report.ValueCount() << " values, " << log.LineCount()
-        << " log lines\n";
-    if (options.values) {
-        report.WriteCsv(values);
-        if (!values.flush()) {
-            err << *options.values << ": cannot be written\n";
-            return kFailed;
-        }
-    }
-    if (!log.Flush()) {
-        err << options.log << ": cannot be written\n";
-        return kFailed;
-    }
-    return complaints.Count() == 0 ? kGood : kBadInput;
 }
 
 }  // namespace diagnosis_session

@@ -13,6 +13,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@
 #include "../diagnosis_session/engine.h"
 #include "../diagnosis_session/exchange.h"
 #include "../diagnosis_session/item_table.h"
+#include "../diagnosis_session/received.h"
 #include "krm/tree/element.h"
 #include "krm/tree/element_group.h"
 
@@ -28,8 +30,8 @@ namespace {
 
 using diagnosis_session::DiagnosisEngine;
 using diagnosis_session::DtcPhase;
-using diagnosis_session::EcuAnswer;
 using diagnosis_session::Exchange;
+using diagnosis_session::Received;
 
 // ---- What the tree needs ----
 
@@ -91,16 +93,18 @@ void AddEcus(DiagnosisEngine& engine, CKRMCElement& vehicle) {
     }
 }
 
-void AddVin(DiagnosisEngine& engine, CKRMCElement& vehicle) {
+void AddVin(DiagnosisEngine& engine, krm_ulong ecuId, CKRMCElement& vehicle) {
     CKRMCGetVinCodeCmdAdaptDataSnd request;
+    request.m_ulEcuId = ecuId;
     CKRMCGetVinCodeCmdAdaptDataRcv answer;
     engine.Answer(request, answer);
     SetAttribute(vehicle, "Vin", answer.m_strVinCode.GetText());
 }
 
 /// A code stays in the description when it is cleared later in the recording.
-void AddTroubleCodes(DiagnosisEngine& engine, DtcPhase phase, CKRMCElement& ecu) {
+void AddTroubleCodes(DiagnosisEngine& engine, krm_ulong ecuId, DtcPhase phase, CKRMCElement& ecu) {
     CKRMCGetDTCCmdAdaptDataSnd request;
+    request.m_ulEcuId = ecuId;
     request.m_uchPhaseType = static_cast<unsigned char>(phase);
     CKRMCGetDTCCmdAdaptDataRcv answer;
     engine.Answer(request, answer);
@@ -113,22 +117,23 @@ void AddTroubleCodes(DiagnosisEngine& engine, DtcPhase phase, CKRMCElement& ecu)
 }
 
 /// The values of an answer. One that was there already takes its newer value.
-void AddValues(DiagnosisEngine& engine, const Exchange& exchange, CKRMCElement& ecu) {
+void AddValues(DiagnosisEngine& engine, const Received& received, krm_ulong ecuId, CKRMCElement& ecu) {
     CKRMCGetFFDCmdAdaptDataSnd request;
+    request.m_ulEcuId = ecuId;
     CKRMCGetFFDCmdAdaptDataRcv answer;
     engine.Answer(request, answer);
     if (answer.Data.GetCount() == 0) {
         return;
     }
     // In service 02 the number of the freeze frame follows the parameter ID.
-    const bool isFreezeFrame = exchange.Service() == 0x02 && exchange.request.size() > 2;
+    const bool isFreezeFrame = received.request[0] == 0x02 && received.request.size() > 2;
     CKRMCElement& holder =
-        isFreezeFrame ? FindOrAddElement(ecu, "FreezeFrame", "Number", krm_ulong{exchange.request[2]}) : ecu;
+        isFreezeFrame ? FindOrAddElement(ecu, "FreezeFrame", "Number", krm_ulong{received.request[2]}) : ecu;
     for (const CKRMCCommandFFDData& item : answer.Data) {
         for (const CKRMCCommandDispData& shown : item.m_cDispDataList) {
             CKRMCElement& value = FindOrAddElement(holder, "Value", "Id", item.m_strFFDText.GetText());
-            // An enumerated item is its text, any other its number.
-            if (item.m_cConversionTbl.m_cPatternDispList.GetCount() != 0) {
+            // A state is its words, a trouble code its name, any other item its number.
+            if (shown.m_ulDispDataType != static_cast<krm_ulong>(diagnosis_session::DisplayKind::Number)) {
                 SetAttribute(value, "Value", shown.m_strData.GetText());
             } else {
                 SetAttribute(value, "Value", shown.m_dData);
@@ -138,27 +143,27 @@ void AddValues(DiagnosisEngine& engine, const Exchange& exchange, CKRMCElement& 
     }
 }
 
-void AddAnswer(DiagnosisEngine& engine, const Exchange& exchange, const EcuAnswer& said, CKRMCElement& vehicle) {
-    CKRMCElement& ecu = FindOrAddElement(vehicle, "Ecu", "Id", krm_ulong{said.ecu});
-    switch (exchange.Service()) {
+void AddAnswer(DiagnosisEngine& engine, const Received& received, krm_ulong ecuId, CKRMCElement& vehicle) {
+    CKRMCElement& ecu = FindOrAddElement(vehicle, "Ecu", "Id", ecuId);
+    switch (received.request[0]) {
         case 0x01:
         case 0x02:
         case 0x22:
-            AddValues(engine, exchange, ecu);
+            AddValues(engine, received, ecuId, ecu);
             break;
         case 0x03:
-            AddTroubleCodes(engine, DtcPhase::Stored, ecu);
+            AddTroubleCodes(engine, ecuId, DtcPhase::Stored, ecu);
             break;
         case 0x07:
-            AddTroubleCodes(engine, DtcPhase::Pending, ecu);
+            AddTroubleCodes(engine, ecuId, DtcPhase::Pending, ecu);
             break;
         case 0x09:
-            if (exchange.request == diagnosis_session::Bytes{0x09, 0x02}) {
-                AddVin(engine, vehicle);
+            if (received.request == diagnosis_session::Bytes{0x09, 0x02}) {
+                AddVin(engine, ecuId, vehicle);
             }
             break;
         case 0x0A:
-            AddTroubleCodes(engine, DtcPhase::Permanent, ecu);
+            AddTroubleCodes(engine, ecuId, DtcPhase::Permanent, ecu);
             break;
         default:  // says nothing about what the vehicle is
             break;
@@ -210,14 +215,28 @@ void Run(const std::string& recordingFile, const std::string& itemsFile) {
     const auto table = diagnosis_session::ItemTable::Parse(ReadFile(itemsFile), complaints.About(itemsFile));
     const std::vector<Exchange> recording =
         diagnosis_session::ReadExchanges(ReadFile(recordingFile), complaints.About(recordingFile));
-    DiagnosisEngine engine(table, recording, complaints.About(recordingFile));
+    const auto oneByOne = [&] {
+        return [&recording, next = std::size_t{0}]() mutable {
+            return next < recording.size() ? std::optional(recording[next++]) : std::nullopt;
+        };
+    };
+    const auto noTotals = [] { return diagnosis_session::RecordingTotals(); };
+    DiagnosisEngine engine(table, oneByOne(), noTotals, complaints.About(recordingFile));
+    engine.Survey(oneByOne(), noTotals);
 
     CKRMCElement vehicle("Vehicle");
     AddEcus(engine, vehicle);
-    for (const Exchange& exchange : recording) {
-        for (const EcuAnswer& said : exchange.answers) {
-            engine.Hear(exchange, said);
-            AddAnswer(engine, exchange, said, vehicle);
+    while (true) {
+        // What was heard next? Then ask for what each ECU said.
+        CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd request;
+        CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv answer;
+        engine.Answer(request, answer);
+        const Received received = diagnosis_session::ReadReceived(answer.m_cDmReceiveDataList);
+        if (received.isEnd) {
+            break;
+        }
+        for (const Received::Answer& said : received.answers) {
+            AddAnswer(engine, received, said.ecu, vehicle);
         }
     }
 

@@ -2,8 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "examples/diagnosis_session/received.h"
 
 namespace {
 
@@ -15,7 +20,31 @@ using diagnosis_session::ReadExchanges;
 class Engine : public ::testing::Test {
 protected:
     static diagnosis_session::Complain NoFault() {
-        return [](std::size_t line, const std::string& what) { ADD_FAILURE() << line << ": " << what; };
+        return [](const diagnosis_session::Place& line, const std::string& what) {
+            ADD_FAILURE() << line.line << ": " << what;
+        };
+    }
+
+    /// An engine on that recording, which has heard all of it beforehand.
+    std::unique_ptr<DiagnosisEngine> EngineOn(const std::vector<Exchange>& recording,
+                                              diagnosis_session::Complain complain) {
+        const auto oneByOne = [&recording] {
+            return [&recording, next = std::size_t{0}]() mutable {
+                return next < recording.size() ? std::optional(recording[next++]) : std::nullopt;
+            };
+        };
+        const auto totals = [] { return diagnosis_session::RecordingTotals{4, 1, 2}; };
+        auto engine = std::make_unique<DiagnosisEngine>(m_table, oneByOne(), totals, std::move(complain));
+        engine->Survey(oneByOne(), totals);
+        EXPECT_EQ(GoOn(*engine).totals.frames, 4U);
+        return engine;
+    }
+    /// What was heard next.
+    static diagnosis_session::Received GoOn(DiagnosisEngine& engine) {
+        CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd request;
+        CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv answer;
+        engine.Answer(request, answer);
+        return diagnosis_session::ReadReceived(answer.m_cDmReceiveDataList);
     }
 
     const ItemTable m_table = ItemTable::Parse(R"({"commands": [
@@ -34,9 +63,11 @@ TEST_F(Engine, AnItemCarriesItsWholeConversion) {
         "(1.0) can0 7E8#05410F0645FF\n",
         NoFault());
     ASSERT_EQ(recording.size(), 1U);
-    DiagnosisEngine engine(m_table, recording, NoFault());
-    engine.Hear(recording[0], recording[0].answers[0]);
+    const auto engineOn = EngineOn(recording, NoFault());
+    DiagnosisEngine& engine = *engineOn;
+    GoOn(engine);
     CKRMCGetFFDCmdAdaptDataSnd request;
+    request.m_ulEcuId = 0x7E8;
     CKRMCGetFFDCmdAdaptDataRcv answer;
     engine.Answer(request, answer);
 
@@ -44,7 +75,8 @@ TEST_F(Engine, AnItemCarriesItsWholeConversion) {
     ASSERT_EQ(answer.Data.GetCount(), 3);
     CKRMCCommandFFDData& temperature = answer.Data[0];
     EXPECT_STREQ(temperature.m_strName.GetText(), "Intake air");
-    EXPECT_STREQ(temperature.m_strUnit.GetText(), "celsius");
+    EXPECT_STREQ(temperature.m_strUnitPhys.GetText(), "celsius");
+    EXPECT_STREQ(temperature.m_strUnit.GetText(), "°C");
     EXPECT_EQ(temperature.m_uchDataType, 0);
     EXPECT_EQ(temperature.m_uchDecPntCount, 5);
     EXPECT_EQ(temperature.m_cConversionTbl.m_lMul, 100000);
@@ -65,6 +97,8 @@ TEST_F(Engine, AnItemCarriesItsWholeConversion) {
     EXPECT_EQ(temperature.m_cDispDataList[0].m_ulRawData, 0x64U);
     EXPECT_EQ(temperature.m_cDispDataList[0].m_dDataPhys, 60.0);
     EXPECT_STREQ(temperature.m_cDispDataList[0].m_strDataPhys.GetText(), "60.00000");
+    EXPECT_STREQ(temperature.m_cDispDataList[0].m_strData.GetText(), "60");
+    EXPECT_EQ(temperature.m_uchUnitConvDecPntCount, 0);
 
     CKRMCCommandFFDData& mode = answer.Data[1];
     EXPECT_EQ(mode.m_uchDataType, 1);
@@ -77,6 +111,7 @@ TEST_F(Engine, AnItemCarriesItsWholeConversion) {
     EXPECT_EQ(trim.m_cConversionTbl.m_cDataMin.m_ulRawData, 0xECU);
     EXPECT_STREQ(trim.m_cConversionTbl.m_cDataMin.m_strDataPhys.GetText(), "-10.00000");
     EXPECT_STREQ(trim.m_cDispDataList[0].m_strDataPhys.GetText(), "-0.50000");
+    EXPECT_STREQ(trim.m_cDispDataList[0].m_strData.GetText(), "-0.5");
 }
 
 TEST_F(Engine, TroubleCodesOfAllSystems) {
@@ -85,9 +120,11 @@ TEST_F(Engine, TroubleCodesOfAllSystems) {
         "(1.0) can0 7E8#100A470403014123\n"
         "(1.0) can0 7E8#2192ABFFFE\n",
         NoFault());
-    DiagnosisEngine engine(m_table, recording, NoFault());
-    engine.Hear(recording[0], recording[0].answers[0]);
+    const auto engineOn = EngineOn(recording, NoFault());
+    DiagnosisEngine& engine = *engineOn;
+    GoOn(engine);
     CKRMCGetDTCCmdAdaptDataSnd request;
+    request.m_ulEcuId = 0x7E8;
     request.m_uchPhaseType = static_cast<unsigned char>(diagnosis_session::DtcPhase::Pending);
     CKRMCGetDTCCmdAdaptDataRcv answer;
     engine.Answer(request, answer);
@@ -102,22 +139,24 @@ TEST_F(Engine, TroubleCodesOfAllSystems) {
 }
 
 TEST_F(Engine, ARefusalIsNotSupportedOnlyWhereItSaysSo) {
-    const auto faults = [](std::size_t, const std::string&) {};
+    const auto faults = [](const diagnosis_session::Place&, const std::string&) {};
     const std::vector<Exchange> recording = ReadExchanges(
         "(1.0) can0 7DF#0104\n"
         "(1.0) can0 7E8#037F0411\n"
         "(1.0) can0 7E9#037F0422\n",
         faults);
     ASSERT_EQ(recording[0].answers.size(), 2U);
-    DiagnosisEngine engine(m_table, recording, faults);
+    const auto engineOn = EngineOn(recording, faults);
+    DiagnosisEngine& engine = *engineOn;
     CKRMCClearDTCCmdAdaptDataSnd request;
     CKRMCClearDTCCmdAdaptDataRcv unsupported;
-    engine.Hear(recording[0], recording[0].answers[0]);
+    GoOn(engine);
+    request.m_ulEcuId = 0x7E8;
     engine.Answer(request, unsupported);
     EXPECT_TRUE(unsupported.m_bNotSupport);
     EXPECT_EQ(unsupported.m_ulResult, 0x11U);
     CKRMCClearDTCCmdAdaptDataRcv refused;
-    engine.Hear(recording[0], recording[0].answers[1]);
+    request.m_ulEcuId = 0x7E9;
     engine.Answer(request, refused);
     EXPECT_FALSE(refused.m_bNotSupport);
     EXPECT_EQ(refused.m_ulResult, 0x22U);
@@ -133,7 +172,8 @@ TEST_F(Engine, TheMonitorGivesTheValuesOfItsPidsInOrderAndThenNone) {
         "(1.0) can0 7DF#02010D\n"
         "(1.0) can0 7E8#03410D02\n",
         NoFault());
-    DiagnosisEngine engine(m_table, recording, NoFault());
+    const auto engineOn = EngineOn(recording, NoFault());
+    DiagnosisEngine& engine = *engineOn;
     CKRMCGetDataMonitorListCmdAdaptDataSnd listRequest;
     listRequest.m_ulEcuId = 0x7E8;
     CKRMCGetDataMonitorListCmdAdaptDataRcv list;
@@ -162,12 +202,18 @@ TEST_F(Engine, TheMonitorGivesTheValuesOfItsPidsInOrderAndThenNone) {
     ASSERT_EQ(started.Data.GetCount(), 1);
     EXPECT_EQ(started.Data[0].m_ushDataMonitorId, 3);
 
+    GoOn(engine);  // the support mask, which has no values
+    CKRMCGetDataMonitorValueCmdAdaptDataRcv none;
+    engine.Answer(poll, none);
+    EXPECT_EQ(none.Data.GetCount(), 0);
     for (const krm_ulong expected : {1U, 2U}) {
+        GoOn(engine);
         CKRMCGetDataMonitorValueCmdAdaptDataRcv values;
         engine.Answer(poll, values);
         ASSERT_EQ(values.Data.GetCount(), 1);
         EXPECT_EQ(values.Data[0].m_cDispDataList[0].m_ulRawData, expected);
     }
+    EXPECT_TRUE(GoOn(engine).isEnd);
     CKRMCGetDataMonitorValueCmdAdaptDataRcv end;
     engine.Answer(poll, end);
     EXPECT_EQ(end.Data.GetCount(), 0);

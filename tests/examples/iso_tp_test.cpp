@@ -26,8 +26,9 @@ protected:
     using Texts = std::vector<std::string>;
     Texts m_messages;
     Texts m_faults;
-    IsoTpAssembler m_assembler{
-        [this](std::size_t line, const std::string& what) { m_faults.push_back(std::to_string(line) + ": " + what); }};
+    IsoTpAssembler m_assembler{[this](const diagnosis_session::Place& place, const std::string& what) {
+        m_faults.push_back(std::to_string(place.line) + ": " + what);
+    }};
 
 private:
     std::size_t m_line = 0;

@@ -42,7 +42,7 @@ TEST(RecordedVehicles, EveryExchangeIsDecodedAndEveryValueMet) {
     const std::filesystem::path folder = KRM_TEST_DATA_DIR "/obd";
     const krm::test::SessionFolder files;
     const krm::test::SessionResult run =
-        krm::test::RunSession({(folder / "recorded.log").string(), (folder / "items.json").string(), "--log",
+        krm::test::RunSession({(folder / "recorded.log").string(), (folder / "items.json").string(), "--operation-log",
                                files.Path("operation.log"), "--values", files.Path("values.csv")});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
@@ -52,7 +52,7 @@ TEST(RecordedVehicles, EveryExchangeIsDecodedAndEveryValueMet) {
     std::istringstream csv(files.Read("values.csv"));
     std::string line;
     std::getline(csv, line);
-    EXPECT_EQ(line, "exchange,request,item,raw,value,unit");
+    EXPECT_EQ(line, "exchange,request,item,raw,value,unit,time,ecu,name,text");
     while (std::getline(csv, line)) {
         const std::vector<std::string> fields = FieldsOf(line);
         ASSERT_GE(fields.size(), 5U) << line;

@@ -81,4 +81,20 @@ TEST(Scaling, NothingWhereItDoesNotFitOrIsNoScaling) {
     EXPECT_FALSE(ScalingOf("1e-2147483648", "1", "0", 8));
 }
 
+TEST(Scaling, ShowsAsManyDecimalsAsTheScalingHas) {
+    const auto decimals = [](const char* mul, const char* div, const char* add) {
+        return static_cast<int>(diagnosis_session::DecimalsOf(ScalingOf(mul, div, add, 16).value()));
+    };
+    EXPECT_EQ(decimals("1", "1", "-40"), 0);
+    EXPECT_EQ(decimals("1", "4", "0"), 2);
+    EXPECT_EQ(decimals("1", "2", "-64"), 1);
+    EXPECT_EQ(decimals("1", "1000", "0"), 3);
+    EXPECT_EQ(decimals("100", "255", "0"), 1);
+    EXPECT_EQ(decimals("100", "128", "-100"), 1);
+    EXPECT_EQ(decimals("1", "32768", "0"), 5);
+    EXPECT_EQ(decimals("10", "1", "0"), 0);
+    EXPECT_EQ(decimals("1", "1", "0.5"), 1);
+    EXPECT_EQ(decimals("0", "1", "0"), 0);
+}
+
 }  // namespace

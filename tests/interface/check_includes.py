@@ -6,7 +6,7 @@
 The table's rows name a folder and what it may include: `nothing`, other folders by their last name, or single headers by
 their path below krm/. Every header and source of krm/ and platform/ must lie in a folder of the table (directly in krm/
 only headers may lie, which gather others), may include its own folder and what its row names, and a public header no
-`internal/` one. Other folders' `internal/` headers are nobody's.
+`internal/` one.
 """
 
 import re

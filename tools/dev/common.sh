@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/krm
 
 build_tools=(cmake ninja-build g++ make)
-test_tools=(googletest nlohmann-json3-dev libpugixml-dev python3-minimal)
+test_tools=(googletest nlohmann-json3-dev libcli11-dev zlib1g-dev libpugixml-dev python3-minimal)
 
 say() { printf '== %s\n' "$*"; }
 as_root() {

@@ -8,7 +8,7 @@ seconds=${1:-20} failed=()
 if ! [[ $seconds =~ ^[1-9][0-9]*$ ]]; then
     usage
 fi
-need "${build_tools[@]}" clang libclang-rt-14-dev nlohmann-json3-dev
+need "${build_tools[@]}" clang libclang-rt-14-dev nlohmann-json3-dev libcli11-dev zlib1g-dev
 build fuzz
 for name in fuzz/corpus/*/; do
     name=$(basename "$name")

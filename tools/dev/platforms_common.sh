@@ -14,11 +14,11 @@ prepare() {
         linux64) ;;
         linux32) need_32_bits ;;
         windows-i686)
-            need g++-mingw-w64-i686-posix
+            need g++-mingw-w64-i686-posix libz-mingw-w64-dev
             KRM_WINE=$(wine_command)
             ;;
         windows-x86_64)
-            need g++-mingw-w64-x86-64-posix wine64
+            need g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64
             KRM_WINE=$(wine64_command)
             ;;
         linux-arm64) need g++-aarch64-linux-gnu qemu-user ;;

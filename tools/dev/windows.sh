@@ -13,5 +13,5 @@ for machine in "${machines[@]}"; do
     build "$platform"
     run_tests "$platform"
     say "the demo in wine"
-    run_on "$platform" diagnosis_session --log demo-operation.log --values demo-values.csv
+    run_on "$platform" diagnosis_session --operation-log demo-operation.log --values demo-values.csv
 done

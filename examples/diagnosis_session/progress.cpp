@@ -1,0 +1,53 @@
+#include "progress.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace diagnosis_session {
+
+std::string ProgressLine(const char* doing, std::uint64_t bytes, std::optional<std::uint64_t> total,
+                         std::uint64_t exchanges, double seconds) {
+    constexpr double kMegabyte = 1e6;
+    char text[128];
+    const double done = static_cast<double>(bytes);
+    if (!total || *total == 0) {
+        std::snprintf(text, sizeof text, "%s %.1f MB  %llu exchanges", doing, done / kMegabyte,
+                      static_cast<unsigned long long>(exchanges));
+        return text;
+    }
+    const double all = static_cast<double>(*total);
+    const double part = std::min(1.0, done / all);
+    const std::string bar(static_cast<std::size_t>(part * 10), '#');
+    std::snprintf(text, sizeof text, "%s [%-10s] %3d %%  %.1f of %.1f MB", doing, bar.c_str(),
+                  static_cast<int>(part * 100), done / kMegabyte, all / kMegabyte);
+    std::string line = text;
+    if (exchanges != 0) {
+        std::snprintf(text, sizeof text, "  %llu exchanges", static_cast<unsigned long long>(exchanges));
+        line += text;
+    }
+    if (part > 0) {
+        const double left = seconds / part - seconds;
+        std::snprintf(text, sizeof text, left < 100 ? "  %.0f s left" : "  %.0f min left",
+                      left < 100 ? left : left / 60);
+        line += text;
+    }
+    return line;
+}
+
+void Progress::Show(const char* doing, std::uint64_t bytes, std::optional<std::uint64_t> total,
+                    std::uint64_t exchanges) {
+    const std::chrono::duration<double> since = std::chrono::steady_clock::now() - m_begin;
+    const std::string line = ProgressLine(doing, bytes, total, exchanges, since.count());
+    Hide();
+    m_out << line << std::flush;
+    m_shown = line.size();
+}
+
+void Progress::Hide() {
+    if (m_shown != 0) {
+        m_out << '\r' << std::string(m_shown, ' ') << '\r' << std::flush;
+        m_shown = 0;
+    }
+}
+
+}  // namespace diagnosis_session
