@@ -560,7 +560,9 @@ void DiagnosisEngine::FillValues(const EcuAnswer& said, const std::set<std::uint
     const std::uint8_t service = m_exchange->Service();
     bool anyKnown = false;
     for (const Parameter& parameter : Split(*m_exchange, said, once)) {
-        m_answeredKeys.insert(parameter.key);
+        if (m_exchange->request.size() > 2) {
+            m_answeredKeys.insert(parameter.key);  // only of several can some be missing
+        }
         anyKnown = anyKnown || parameter.command != nullptr || IsSupportMask(service, parameter.key);
         if (pids == nullptr || pids->contains(PidOf(service, parameter.key))) {
             FillItems(said, parameter, items, once);

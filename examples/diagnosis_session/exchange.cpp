@@ -94,11 +94,11 @@ public:
             }
             return;
         }
-        if (const std::optional<IsoTpMessage> message = m_assembler.Add(frame)) {
+        if (std::optional<IsoTpMessage> message = m_assembler.Add(frame)) {
             if (isRequest) {
-                AddRequest(*message);
+                AddRequest(*std::move(message));
             } else {
-                AddAnswer(*message);
+                AddAnswer(*std::move(message));
             }
         }
     }
@@ -125,15 +125,15 @@ private:
         }
     }
 
-    void AddRequest(const IsoTpMessage& message) {
+    void AddRequest(IsoTpMessage message) {
         EndExchange();
         m_complete = std::move(m_current);
         m_faultSinceRequest = false;
         m_pending = false;
-        m_current = Exchange{++m_number, message.line, message.id, message.bytes, {}, message.time};
+        m_current = Exchange{++m_number, message.line, message.id, std::move(message.bytes), {}, message.time};
     }
 
-    void AddAnswer(const IsoTpMessage& message) {
+    void AddAnswer(IsoTpMessage message) {
         const auto says = [&] {
             return HexOfId(message.id) + " answers " +
                    HexOf(std::span(message.bytes).first(std::min<std::size_t>(message.bytes.size(), 3)));
@@ -161,7 +161,7 @@ private:
             m_complain(message.line, says() + " behind " + std::to_string(kMostAnswers) + " answers; it is left out");
             return;
         }
-        exchange.answers.push_back({message.line, message.id, message.bytes, message.time});
+        exchange.answers.push_back({message.line, message.id, std::move(message.bytes), message.time});
     }
 
     Complain m_complain;

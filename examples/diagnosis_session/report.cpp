@@ -21,22 +21,32 @@ std::size_t WidthOf(std::string_view text) {
         text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
-std::string Blanks(std::size_t width, std::string_view text) {
-    return std::string(width - std::min(width, WidthOf(text)), ' ');
+/// What `text` lacks to that width, of a run of blanks.
+std::string_view Blanks(std::size_t width, std::string_view text) {
+    static const std::string blanks(128, ' ');
+    return std::string_view(blanks).substr(0, width - std::min(width, WidthOf(text)));
 }
 
 std::string Count(std::uint64_t number, const char* what) {
     return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
 }
 
-/// Text of a vehicle or a table on one line, whatever it holds.
-std::string OnOneLine(std::string_view text) {
-    std::string line(text);
-    for (char& character : line) {
-        const bool isControl = (character >= 0 && character < ' ') || character == '\x7F';
-        character = isControl ? '?' : character;
+bool IsControl(char character) {
+    return (character >= 0 && character < ' ') || character == '\x7F';
+}
+
+/// Text of a vehicle or a table on one line, whatever it holds. `changed` keeps it where it had to be changed.
+std::string_view OnOneLine(std::string_view text, std::string& changed) {
+    if (std::none_of(text.begin(), text.end(), IsControl)) {
+        return text;
     }
-    return line;
+    changed = text;
+    std::replace_if(changed.begin(), changed.end(), IsControl, '?');
+    return changed;
+}
+std::string OnOneLine(std::string_view text) {
+    std::string changed;
+    return std::string(OnOneLine(text, changed));
 }
 
 }  // namespace
@@ -146,7 +156,8 @@ void Report::Values(const Moment& moment, const CKRMList<CKRMCCommandFFDData>& i
         BeginRow(moment);
         const std::string_view name =
             item.m_strName.GetLength() != 0 ? item.m_strName.GetText() : item.m_strFFDText.GetText();
-        const std::string shownName = OnOneLine(name);
+        std::string changedName;
+        const std::string_view shownName = OnOneLine(name, changedName);
         if (item.m_cDispDataList.GetCount() == 0) {
             Row(shownName, "not in the answer", "");
             continue;
