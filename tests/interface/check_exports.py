@@ -35,9 +35,9 @@ def symbols(library, nm):
         kind, name = match.groups() if match else ("", "")
         if kind in "TWVDRBu" and kind and not name.startswith(("_", ".")):
             yield kind, name
-        elif kind == "I" and name.startswith("_imp___ZT"):  # of data an import library has the pointer alone
-            yield "D", subprocess.run(["c++filt", name.removeprefix("_imp__")], check=True, capture_output=True,
-                                        text=True).stdout.strip()
+        # Of data an import library has the pointer alone; 32-bit names have one underscore more.
+        elif imported := kind == "I" and re.match(r"_{1,2}imp_{1,2}(_ZT.*)", name):
+            yield "D", subprocess.run(["c++filt", imported[1]], check=True, capture_output=True, text=True).stdout.strip()
 
 
 def without_arguments(name):
