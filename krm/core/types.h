@@ -11,7 +11,6 @@
 #include <krm_needs_C++20>
 #endif
 
-#include <cinttypes>
 #include <climits>
 #include <cstdint>
 
@@ -39,10 +38,10 @@ using krm_int64 = std::int64_t;
 #define KRM_PRIX "lX"
 #define KRM_PRIx "lx"
 #else
-#define KRM_PRIu PRIu32
-#define KRM_PRId PRId32
-#define KRM_PRIX PRIX32
-#define KRM_PRIx PRIx32
+#define KRM_PRIu "u"
+#define KRM_PRId "d"
+#define KRM_PRIX "X"
+#define KRM_PRIx "x"
 #endif
 
 static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 4 && CHAR_BIT == 8,
