@@ -1,32 +1,36 @@
 #!/usr/bin/env python3
 """Compiles the public headers for MSVC's targets and reads from the compiler where it puts slots and fields.
 
-usage: check.py CLANG
+usage: check.py CLANG GCC
 
-Needs neither MSVC nor Windows: Clang lays classes out as MSVC does, and include/ stands in for the standard library, as
-far as the headers need it. Checks, for 32 and 64 bits,
+Needs neither MSVC nor Windows: Clang lays classes out as MSVC does, and takes the standard library of this system's
+GCC, of which the 32-bit half must be there too. Checks, for 32 and 64 bits,
   - that every public header compiles on its own, and that no other file has a branch for MSVC, which nothing would
     compile;
   - that every class with a virtual table has the slots that tests/interface/slots.def documents;
   - that every class has its fields in the order of the other compilers, each at the next place that its alignment
     allows, the first one behind the base. (MSVC never puts a field into the padding at the base's end, as others do.)
 """
+import concurrent.futures
 import pathlib
 import re
 import subprocess
 import sys
+import tempfile
 
 HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parent.parent
 SLOTS = ROOT / "tests/interface/slots.def"
-# What stands beside the classes of the interface and uses far more of the standard library than the stand-ins have.
-CONVENIENCES = {"krm/convert/signal.h", "krm/core/list_tools.h", "krm/framework/errors.h", "krm/framework/log_sinks.h",
-                "krm/messages/describe.h", "krm/platform/string.h", "krm/tree/set_value.h", "krm/tree/tools.h"}
 CLASSES = ROOT / "tests/support/all_classes.h"
-# The target, the size of its pointers, and a target with the same types whose layouts the tests prove by running.
-TARGETS = (("i686-pc-windows-msvc", 4, "i686-w64-windows-gnu"), ("x86_64-pc-windows-msvc", 8, "x86_64-w64-windows-gnu"))
+# The target, the size of its pointers, GCC's option for them, and what its C library must take for its word: `long` has
+# 32 bits on all of Windows.
+TARGETS = (("i686-pc-windows-msvc", 4, "-m32", ()), ("x86_64-pc-windows-msvc", 8, "-m64", ("-D__ILP32__",)))
+WARNINGS = ("-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Werror")
 SIZES = {"char": 1, "signed char": 1, "unsigned char": 1, "_Bool": 1, "bool": 1, "short": 2, "unsigned short": 2,
          "int": 4, "unsigned int": 4, "krm_ulong": 4, "krm_long": 4, "double": 8, "krm_int64": 8, "CommandFamily": 4}
+
+# What the library's classes are called; all others are the standard library's, and functions without a name.
+OWN = r"krm::|CKRM"
 
 failures = []
 
@@ -37,14 +41,43 @@ def expect(condition, message):
     return condition
 
 
-def compile_for(clang, target, source, *options):
-    command = [clang, f"--target={target}", "-std=c++20", "-DNDEBUG", "-nostdinc++", "-nostdlibinc", "-isystem", HERE / "include",
-               "-I", ROOT, "-I", ROOT / "platform", "-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion",
-               "-Werror", *options, "-x", "c++", source]
-    run = subprocess.run(command, capture_output=True, text=True, check=False)
-    if not expect(run.returncode == 0, f"{target}: {source} does not compile:\n{run.stderr}"):
-        return ""
-    return run.stdout
+def run(command, what):
+    done = subprocess.run(command, capture_output=True, text=True, check=False)
+    return done.stdout if expect(done.returncode == 0, f"{what}:\n{done.stderr}") else ""
+
+
+def output(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=True).stdout.strip()
+
+
+class Msvc:
+    """Compiles for one of MSVC's targets."""
+
+    def __init__(self, clang, gcc, target, word, definitions, folder):
+        self.target = target
+        search = subprocess.run([gcc, word, "-E", "-v", "-x", "c++", "/dev/null"], capture_output=True, text=True,
+                                check=True).stderr
+        folders = search.split("#include <...> search starts here:\n")[1].split("End of search list.")[0].split()
+        # GCC's own <stddef.h> and so on are Clang's here.
+        own = output(clang, "-print-resource-dir") + "/include"
+        folders = [own if re.search(r"/lib/gcc/[^+]*/include$", each) else each for each in folders]
+        # The kernel's headers, which GCC takes from elsewhere for 32 bits.
+        folders.append("/usr/include/" + output(gcc, "-print-multiarch"))
+        self.command = [clang, f"--target={target}", "-std=c++20", "-nostdinc", "-fgnuc-version=4.2.1",
+                        "-fno-ms-compatibility", "-fms-compatibility-version=19.30", "-D__linux__", "-D__ELF__",
+                        "-D_GNU_SOURCE", *definitions, *(f"-isystem{each}" for each in folders),
+                        "-I", str(ROOT), "-I", str(ROOT / "platform"), *WARNINGS]
+        # The library's headers must not see that their standard library is GCC's.
+        self.prelude = f"{folder}/{target}.pch"
+        run([*self.command, "-x", "c++-header", str(HERE / "prelude.h"), "-o", self.prelude], f"{target}: prelude.h")
+
+    def compile_alone(self, header):
+        run([*self.command, "-fsyntax-only", "-x", "c++", str(header)],
+            f"{self.target}: {header.relative_to(ROOT)} does not compile on its own")
+
+    def compile(self, source, *options):
+        return run([*self.command, "-include-pch", self.prelude, *options, "-x", "c++", str(source)],
+                   f"{self.target}: {source.relative_to(ROOT)} does not compile")
 
 
 def sources(*patterns):
@@ -96,6 +129,8 @@ def check_slots(target, dump, polymorphic):
     used = set()
     for chain, entries, body in virtual_tables(dump):
         name = f"{target}: {chain[-1]}"
+        if not re.match(OWN, chain[-1]):
+            continue
         if not expect(len(entries) > 1 and entries[0].endswith(" RTTI") and "adjustment" not in body,
                       f"{name}: a virtual table of an unknown form:\n{body}"):
             continue
@@ -145,7 +180,8 @@ class Layout:
                 self.parts.append((offset, spelled(kind), field))
 
     def fields(self):
-        return [(kind, name) for _, kind, name in self.parts if name not in ("base", "table")]
+        return [(re.sub(r"\bunsigned (int|long)\b", "krm_ulong", kind), name) for _, kind, name in self.parts
+                if name not in ("base", "table")]
 
     def is_polymorphic(self, layouts):
         return any(name == "table" or name == "base" and layouts[kind].is_polymorphic(layouts)
@@ -173,7 +209,7 @@ def size_and_alignment(kind, pointer, layouts):
 def check_fields(target, pointer, layouts, others):
     count = 0
     for layout in layouts.values():
-        if re.match(r"std::|\(lambda", layout.name):
+        if not re.match(OWN, layout.name):
             continue
         count += 1
         end, align = 0, 1
@@ -199,26 +235,36 @@ def check_fields(target, pointer, layouts, others):
 
 
 def main():
-    clang = sys.argv[1]
+    clang, gcc = sys.argv[1:]
     check_branches()
-    headers = [path for path in sources("krm/**/*.h", "platform/**/*.h")
-               if is_public(path) and str(path.relative_to(ROOT)) not in CONVENIENCES]
+    headers = [path for path in sources("krm/**/*.h", "platform/**/*.h") if is_public(path)]
     listed = {name for name in re.findall(r"^    X\((\w+),", CLASSES.read_text(), re.MULTILINE)}
-    for target, pointer, other in TARGETS:
-        for header in headers:
-            compile_for(clang, target, header, "-fsyntax-only")
-        dumps = [compile_for(clang, each, HERE / "every_class.cpp", "-DKRM_BUILDING_ADAPTATION_DATA",
-                             "-DKRM_BUILDING_PLATFORM", "-S", "-emit-llvm", "-o", "/dev/null", "-Xclang",
-                             "-fdump-record-layouts", "-Xclang", "-fdump-vtable-layouts") for each in (target, other)]
-        layouts, others = map(layouts_of, dumps)
-        missing = {name for name in listed if name not in layouts or f"CKRMList<{name}>" not in layouts}
-        expect(not missing, f"{target}: not laid out: {sorted(missing)}")
-        polymorphic = {name for name, layout in layouts.items() if layout.is_polymorphic(layouts)}
-        tables = check_slots(target, dumps[0], polymorphic)
-        fields = check_fields(target, pointer, layouts, others)
-        print(f"{target}: {len(headers)} headers, {tables} virtual tables, {fields} layouts")
-    for failure in failures:
+    every = HERE / "every_class.cpp"
+    dump = ("-S", "-emit-llvm", "-o", "/dev/null", "-Xclang", "-fdump-record-layouts", "-Xclang",
+            "-fdump-vtable-layouts")
+    with tempfile.TemporaryDirectory() as folder, concurrent.futures.ThreadPoolExecutor() as pool:
+        for target, pointer, word, definitions in TARGETS:
+            msvc = Msvc(clang, gcc, target, word, definitions, folder)
+            if target == TARGETS[0][0]:
+                list(pool.map(msvc.compile_alone, headers))
+            list(pool.map(lambda header: msvc.compile(header, "-fsyntax-only"), headers))
+            if failures:
+                break
+            text = msvc.compile(every, "-DKRM_BUILDING_ADAPTATION_DATA", "-DKRM_BUILDING_PLATFORM", *dump)
+            layouts = layouts_of(text)
+            others = layouts_of(run([clang, "-std=c++20", "-I", str(ROOT), "-I", str(ROOT / "platform"), *dump,
+                                     str(every)], "every_class.cpp does not compile for this system"))
+            missing = {name for name in listed if name not in layouts or f"CKRMList<{name}>" not in layouts}
+            expect(not missing, f"{target}: not laid out: {sorted(missing)}")
+            polymorphic = {name for name, layout in layouts.items()
+                           if layout.is_polymorphic(layouts) and re.match(OWN, name)}
+            tables = check_slots(target, text, polymorphic)
+            fields = check_fields(target, pointer, layouts, others)
+            print(f"{target}: {len(headers)} headers, {tables} virtual tables, {fields} layouts")
+    for failure in failures[:20]:
         print(failure, file=sys.stderr)
+    if len(failures) > 20:
+        print(f"and {len(failures) - 20} more", file=sys.stderr)
     return 1 if failures else 0
 
 
