@@ -471,6 +471,11 @@ TEST(RawFromPhysical, TakesNoNumberThatIsNone) {
     }
 }
 
+TEST(RawFromPhysical, OfSecondsInWords) {
+    EXPECT_EQ("none", Raw(Rule(115, Table(16)), "2 hours"));
+    EXPECT_EQ("no inverse", Raw(Rule(115, Table(16, 0, 0)), "0hrs,0min"));
+}
+
 TEST(RawFromPhysical, OfAScalingThatGivesOneValueThereIsNoInverse) {
     const CKRMCCommandConversionData zero = Table(8, 0, 0, 1, 5);
     for (const int type : {0, 1, 15, 19, 102, 110}) {
