@@ -15,6 +15,7 @@ std::string NotEmpty(const std::string& text) {
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
     CommandLine line;
     CLI::App app("Decodes what a vehicle said in a recording of its CAN bus.", "diagnosis_session");
+    app.allow_windows_style_options(false);  // a path may begin with a slash there too
     app.set_help_flag("-h,--help", "Show this text");
     app.set_version_flag("--version", "diagnosis_session " KRM_VERSION, "Show the version");
     const CLI::Validator file(NotEmpty, "");
