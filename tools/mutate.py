@@ -59,11 +59,12 @@ EQUIVALENT = ROOT / "tools" / "mutate_equivalent.txt"
 
 # The tests that stand for a header, when they are to be compiled anew for it. Other headers take the test of their name.
 TESTS_OF_HEADERS = {
-    "krm/core/list.h": ["tests/core/list_test.cpp"],
+    "krm/core/list.h": ["tests/core/list_test.cpp", "tests/core/list_tools_test.cpp"],
     "krm/framework/dump.h": ["tests/framework/record_test.cpp", "tests/messages/diag/words_test.cpp"],
     "krm/framework/record.h": ["tests/framework/record_test.cpp"],
     "krm/framework/message.h": ["tests/framework/message_test.cpp"],
     "krm/framework/commands.h": ["tests/framework/commands_test.cpp", "tests/framework/message_test.cpp"],
+    "krm/platform/string.h": ["tests/platform/string_conveniences_test.cpp"],
     "krm/platform/platform.h": ["tests/platform/map_test.cpp", "tests/platform/string_test.cpp",
                                 "tests/platform/error_test.cpp", "tests/framework/message_test.cpp"],
     "krm/convert/internal/extended.h": ["tests/convert/extended_test.cpp", "tests/convert/base_conversions_test.cpp"],
