@@ -121,7 +121,8 @@ TEST_P(EveryMessage, IsMadeFromTypeIdAndDirection) {
     const std::unique_ptr<CKRMBaseAdaptationData> made = krm::NewMessage(GetParam().type, GetParam().id, direction);
     ASSERT_NE(made, nullptr);
     void* const typed = GetParam().typed(*made);
-    ASSERT_NE(typed, nullptr) << typeid(*made).name();
+    const CKRMBaseAdaptationData& object = *made;
+    ASSERT_NE(typed, nullptr) << typeid(object).name();
     const AnyClass::Object fresh = GetParam().any.make();
     EXPECT_EQ(GetParam().any.describe(typed), GetParam().any.describe(fresh.get()));
 }
