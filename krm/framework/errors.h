@@ -19,6 +19,7 @@
 #include <utility>
 #include <variant>
 
+#include "krm/core/error_codes.h"
 #include "krm/core/types.h"
 #include "krm/platform/platform.h"
 
@@ -33,7 +34,7 @@ constexpr const char* ErrorText(krm_ulong code) {
     };
     constexpr Row kRows[] = {
         {0, "no error"},
-        {1100100001, "a required argument is null, or data has no bytes or too many bits"},
+        {kNullArgument, "a required argument is null, or data has no bytes or too many bits"},
         {2100100002, "out of memory"},
         {2100100101, "the attribute is not in this element"},
         {2100100102, "the element is not in this group"},
