@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
 #include <limits>
 #include <map>
 #include <new>
@@ -19,6 +18,7 @@
 #include "krm/messages/diag/oscilloscope.h"
 #include "tests/support/converters.h"
 #include "tests/support/failing_allocation.h"
+#include "tests/support/reference_conversions.h"
 
 namespace krm::test {
 namespace {
@@ -57,7 +57,7 @@ std::string Raw(const SignalRule& rule, Shown shown) {
             return "found " + std::to_string(found.raw);
         case RawStatus::kNearest:
             EXPECT_FALSE(static_cast<bool>(found));
-            return "nearest " + std::to_string(found.raw) + " gives " + std::to_string(found.physical);
+            return "nearest " + std::to_string(found.raw) + " gives " + reference::FixedPoint(found.physical, 6);
         case RawStatus::kNone:
             EXPECT_EQ(0U, found.raw);
             return "none";
@@ -421,10 +421,9 @@ TEST(RawFromPhysical, RoundsToTheNearestAndSaysSo) {
 TEST(RawFromPhysical, FindsEveryTypedDecimal) {
     const CKRMCCommandConversionData table = Table(16, 1);
     for (int i = -32768; i < 32768; i += 3) {
-        char typed[32];
-        std::snprintf(typed, sizeof typed, "%.3f", i / 1000.0);
-        ASSERT_EQ("found " + std::to_string(i & 0xFFFF), Raw(Rule(0, table, 3), std::stod(typed))) << typed;
-        ASSERT_EQ("found " + std::to_string(i & 0xFFFF), Raw(Rule(0, table, 3), std::string(typed))) << typed;
+        const std::string typed = reference::FixedPoint(i / 1000.0, 3);
+        ASSERT_EQ("found " + std::to_string(i & 0xFFFF), Raw(Rule(0, table, 3), i / 1000.0)) << typed;
+        ASSERT_EQ("found " + std::to_string(i & 0xFFFF), Raw(Rule(0, table, 3), typed)) << typed;
     }
 }
 
