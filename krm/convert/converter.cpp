@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
 #include "krm/convert/internal/extended.h"
 #include "krm/convert/internal/numbers.h"
+#include "krm/convert/internal/quick_scaling.h"
 #include "krm/convert/internal/steps.h"
 
 using krm::kNullArgument;
@@ -232,6 +234,12 @@ krm_ulong CKRMCCommandConvSignalData::PhysicalConversion(double* result, krm_ulo
     const krm_ulong status = SignedConversion(&number, ulRawData, uchSigned, ushBitLength);
     if (status != 0) {
         return status;
+    }
+    if constexpr (!std::is_floating_point_v<Extended>) {
+        if (const auto quick = krm::convert::QuickScaling(number, lMul, lDiv, lOffset, uchDecPntCount)) {
+            *result = *quick;
+            return 0;
+        }
     }
     *result = krm::convert::InExtendedPrecision(number, [&](krm_int64 signedValue) {
         auto scaled = static_cast<Extended>(signedValue);

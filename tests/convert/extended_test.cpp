@@ -1,6 +1,5 @@
 // Extended precision in integers gives bit for bit what the processor's gives.
 #include "krm/convert/internal/extended.h"
-#include "tests/support/not_under.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +8,9 @@
 #include <cstdint>
 #include <limits>
 #include <random>
+
+#include "tests/support/not_under.h"
+#include "tests/support/scaling_rounds.h"
 
 namespace {
 
@@ -44,7 +46,8 @@ TEST(SoftExtended, RandomScalingsAreTheProcessors) {
         const auto magnitude = static_cast<krm_int64>(random() >> bits(random));
         return (random() & 1U) != 0 ? -magnitude : magnitude;
     };
-    for (int i = 0; i < 200'000; ++i) {
+    const int rounds = krm::test::ScalingRounds();
+    for (int i = 0; i < rounds; ++i) {
         krm_int64 divisor = number();
         if (divisor == 0) {
             divisor = 7;
