@@ -59,6 +59,7 @@ EQUIVALENT = ROOT / "tools" / "mutate_equivalent.txt"
 
 # The tests that stand for a header, when they are to be compiled anew for it. Other headers take the test of their name.
 TESTS_OF_HEADERS = {
+    "krm/core/error_codes.h": ["tests/framework/errors_test.cpp"],
     "krm/core/list.h": ["tests/core/list_test.cpp", "tests/core/list_tools_test.cpp"],
     "krm/framework/dump.h": ["tests/framework/record_test.cpp", "tests/messages/diag/words_test.cpp"],
     "krm/framework/record.h": ["tests/framework/record_test.cpp"],
@@ -259,7 +260,7 @@ def read_equivalent():
 def all_mutants():
     entries = read_equivalent()
     used = Counter()
-    error_codes = re.findall(r"\b(k[A-Z]\w*) = \d{10};", (ROOT / "krm/tree/node.h").read_text())
+    error_codes = re.findall(r"\b(k[A-Z]\w*) = \d{10};", (ROOT / "krm/core/error_codes.h").read_text())
     mutants = []
     for path in sorted(str(p.relative_to(ROOT)) for p in (ROOT / "krm").rglob("*") if p.suffix in (".h", ".cpp")):
         text = (ROOT / path).read_text()
