@@ -27,7 +27,8 @@ public:
     void SetUp() override {
         // A misspelt name would skip nothing and say nothing.
         const char* const under = std::getenv("KRM_UNDER");
-        ASSERT_TRUE(under == nullptr || krm::test::RunsUnder(krm::test::Tool::Memcheck)) << "no such tool: " << under;
+        ASSERT_TRUE(under == nullptr || krm::test::RunsUnder(krm::test::Condition::Memcheck))
+            << "no such tool: " << under;
     }
 };
 

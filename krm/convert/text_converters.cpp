@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 
 #include "krm/convert/internal/numbers.h"
 #include "krm/convert/internal/short_text.h"
@@ -20,8 +21,10 @@ krm_ulong ShowDegrees(CKRMString* result, double degrees, const char* positive, 
     }
     constexpr unsigned char kDecimals = 4;
     const bool below = degrees < 0;
-    *result = below ? negative : positive;
-    *result += krm::convert::DecimalText(below ? -degrees : degrees, kDecimals).Text();
+    // Whole before it is assigned: where memory runs out, the result stays as it was.
+    std::string text = below ? negative : positive;
+    text += krm::convert::DecimalText(below ? -degrees : degrees, kDecimals).Text();
+    *result = text.c_str();
     return 0;
 }
 

@@ -35,13 +35,13 @@ constexpr const char* ErrorText(krm_ulong code) {
     constexpr Row kRows[] = {
         {0, "no error"},
         {kNullArgument, "a required argument is null, or data has no bytes or too many bits"},
-        {2100100002, "out of memory"},
-        {2100100101, "the attribute is not in this element"},
-        {2100100102, "the element is not in this group"},
-        {2100100103, "no element group of that name, or it is not in this element"},
-        {2100100121, "values of this type can't be compared"},
-        {2100100122, "values of different types can't be compared"},
-        {2100100123, "one of the two values is unset"},
+        {kOutOfMemory, "out of memory"},
+        {kNoSuchAttribute, "the attribute is not in this element"},
+        {kNoSuchElement, "the element is not in this group"},
+        {kNoSuchGroup, "no element group of that name, or it is not in this element"},
+        {kUnknownValueType, "values of this type can't be compared"},
+        {kDifferentTypes, "values of different types can't be compared"},
+        {kValueUnset, "one of the two values is unset"},
     };
     for (const Row& row : kRows) {
         if (row.code == code) {

@@ -3,11 +3,11 @@
 //     element -> attributes
 //             -> groups -> elements of the group's name -> ...
 //
-// Here is what all nodes share, with the codes of the whole tree; docs/interface.md has slots, layouts and who raises
-// which code. Nothing else of the library uses the tree, and krm/tree/ includes nothing but krm/core/ and the platform.
+// Here is what all nodes share; docs/interface.md has slots, layouts and who raises which code. Nothing else of the library
+// uses the tree, and krm/tree/ includes nothing but krm/core/ and the platform.
 //
-// Every operation that can fail takes a CKRMError first and sets its code: 0 on success, else one of the codes below,
-// with empty details. A null error object is allowed; the failure then shows in the result alone. No such operation
+// Every operation that can fail takes a CKRMError first and sets its code: 0 on success, else one of the error codes
+// below, with empty details. A null error object is allowed; the failure then shows in the result alone. No such operation
 // throws; only Description, and a constructor whose name can't be copied, let a std::bad_alloc pass.
 //
 // krm/tree/tools.h has loops, searching by path, removing a single node, copies and XML.
@@ -29,15 +29,15 @@ inline constexpr krm_ulong kAttributeKind = 1;     ///< a CKRMCAttribute
 inline constexpr krm_ulong kElementKind = 2;       ///< a CKRMCElement
 inline constexpr krm_ulong kElementGroupKind = 3;  ///< a CKRMCElementGroup
 
-// Error codes.
-using krm::kNullArgument;                                   ///< a name, text, attribute, element or group is null
-inline constexpr krm_ulong kOutOfMemory = 2100100002;       ///< a value or node can't be allocated
-inline constexpr krm_ulong kNoSuchAttribute = 2100100101;   ///< the attribute to remove is not in this element
-inline constexpr krm_ulong kNoSuchElement = 2100100102;     ///< the element to remove is not in this group
-inline constexpr krm_ulong kNoSuchGroup = 2100100103;       ///< no group of that name, or it is not in this element
-inline constexpr krm_ulong kUnknownValueType = 2100100121;  ///< values of a type that can't be compared
-inline constexpr krm_ulong kDifferentTypes = 2100100122;    ///< values of different types
-inline constexpr krm_ulong kValueUnset = 2100100123;        ///< one of the two values is unset
+// Error codes (krm/core/error_codes.h).
+using krm::kDifferentTypes;
+using krm::kNoSuchAttribute;
+using krm::kNoSuchElement;
+using krm::kNoSuchGroup;
+using krm::kNullArgument;  // a name, text, attribute, element or group is null
+using krm::kOutOfMemory;
+using krm::kUnknownValueType;
+using krm::kValueUnset;
 
 }  // namespace krm::tree
 

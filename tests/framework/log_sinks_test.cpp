@@ -1,24 +1,25 @@
-// The sinks of the operation log.
+// The sinks of the operation log, but for ScopedLogSink: tests/platform/scoped_log_sink_test.cpp.
 #include "krm/framework/log_sinks.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstddef>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <thread>
-#include <vector>
 
 #include "krm/messages/auxiliary/unit_conversion.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/vehicle.h"
 #include "krm/platform/platform.h"
+#include "tests/support/keeping_sink.h"
+#include "tests/support/log_sink.h"
 
 namespace {
 
+using krm::test::KeepingSink;
 using std::chrono::milliseconds;
 using std::chrono::system_clock;
 using ::testing::ElementsAre;
@@ -30,43 +31,20 @@ system_clock::time_point LastMomentOfALeapDay() {
     return At(1709251199999);
 }
 
-/// Keeps what it is told, and answers with `result`.
-struct Keeper {
-    krm_long Write(std::string_view line, int first, int second) {
-        lines.push_back(std::string(line) + '|' + std::to_string(first) + '|' + std::to_string(second));
-        return result;
-    }
-    krm_long result = 0;
-    std::vector<std::string> lines;
+/// Makes a sink the operation log's while it lives, as ScopedLogSink does, but on any platform.
+template <krm::LogSink Sink>
+class LogTo {
+public:
+    explicit LogTo(Sink& sink) { krm::test::SetLogSink(&krm::WriteToSink<Sink>, &sink); }
+    ~LogTo() { krm::test::SetLogSink(nullptr, nullptr); }
+    LogTo(const LogTo&) = delete;
+    LogTo& operator=(const LogTo&) = delete;
 };
-
-TEST(ScopedLogSinkTest, ASinkOfOnesOwnHearsEveryLineWithFourAndTwo) {
-    Keeper keeper;
-    {
-        const krm::ScopedLogSink scope(keeper);
-        CKRMCGetUnitSettingGroupListUccAdaptDataSnd request;
-        request.ErrWriteOperationLog();
-    }
-    EXPECT_THAT(keeper.lines, ElementsAre("[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandType=10|4|2",
-                                          "[CKRMCBaseUccAdaptData::ErrWriteOperationLog] m_dwCommandID=4|4|2"));
-    ::testing::internal::CaptureStderr();
-    KRMC_ER_WriteOperationLog("behind", 6, 4, 2);
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "behind\n");
-    EXPECT_EQ(keeper.lines.size(), 2U);
-}
-
-TEST(ScopedLogSinkTest, TheSinksResultGoesBackToTheWriter) {
-    Keeper keeper;
-    keeper.result = -7;
-    const krm::ScopedLogSink scope(keeper);
-    EXPECT_EQ(KRMC_ER_WriteOperationLog("x", 1, 1, 5), -7);
-    EXPECT_THAT(keeper.lines, ElementsAre("x|1|5"));
-}
 
 TEST(PlainLogTest, WritesTheLinesAsTheyAre) {
     std::ostringstream stream;
     krm::PlainLog log(stream);
-    const krm::ScopedLogSink scope(log);
+    const LogTo scope(log);
     CKRMCGetDTCCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
     request.ErrWriteOperationLog();
@@ -92,7 +70,7 @@ TEST(PlainLogTest, SaysWhenTheStreamIsBad) {
 TEST(HeadedLogTest, WritesTimeThreadAndAHeadingPerMessage) {
     std::ostringstream stream;
     krm::HeadedLog log(stream, &LastMomentOfALeapDay);
-    const krm::ScopedLogSink scope(log);
+    const LogTo scope(log);
     CKRMCGetDTCCmdAdaptDataSnd request;
     request.m_ulEcuId = 2016;
     request.ErrWriteOperationLog();
@@ -117,7 +95,7 @@ TEST(HeadedLogTest, WritesTimeThreadAndAHeadingPerMessage) {
 TEST(HeadedLogTest, NamesACommandThatTheTableDoesntHaveByItsNumbers) {
     std::ostringstream stream;
     krm::HeadedLog log(stream, &LastMomentOfALeapDay);
-    const krm::ScopedLogSink scope(log);
+    const LogTo scope(log);
     CKRMCBaseDsdiAdaptData base(0xFFFFFFFFU);
     base.ErrWriteOperationLog();
     EXPECT_EQ(stream.str(),
@@ -156,7 +134,7 @@ TEST(HeadedLogTest, AHeadingWithoutDirectionWhereNoLineTellsIt) {
     std::ostringstream stream;
     {
         krm::HeadedLog log(stream, &LastMomentOfALeapDay);
-        const krm::ScopedLogSink scope(log);
+        const LogTo scope(log);
         CKRMCBaseCmdAdaptData base(2);
         base.ErrWriteOperationLog();
         EXPECT_EQ(stream.str(), "");  // still waiting for the line that tells
@@ -221,8 +199,8 @@ TEST(LogSinksTest, ThreadsMayWriteAtTheSameTime) {
 }
 
 TEST(TeeLogTest, WritesToBothAndReturnsTheFirstFailure) {
-    Keeper one;
-    Keeper other;
+    KeepingSink one;
+    KeepingSink other;
     krm::TeeLog both(one, other);
     EXPECT_EQ(both.Write("x", 4, 2), 0);
     other.result = 5;
@@ -231,7 +209,7 @@ TEST(TeeLogTest, WritesToBothAndReturnsTheFirstFailure) {
     EXPECT_EQ(both.Write("z", 1, 7), 3);
     EXPECT_THAT(one.lines, ElementsAre("x|4|2", "y|4|2", "z|1|7"));
     EXPECT_EQ(other.lines, one.lines);
-    Keeper third;
+    KeepingSink third;
     krm::TeeLog three(both, third);
     EXPECT_EQ(three.Write("w", 4, 2), 3);
     EXPECT_THAT(third.lines, ElementsAre("w|4|2"));

@@ -93,10 +93,11 @@ TEST_F(OutOfMemory, AConverterWithoutItsLocaleGivesSubstitutes) {
     EXPECT_EQ(LivingBlocks(), before);
 }
 
-// Of these converters every text fits into a string without memory of its own.
+// Of these converters every text fits into a string without memory of its own, where the platform's strings have such room.
 const std::set<int> kWithShortTexts = {5, 15, 16, 19, 105, 106, 107, 108, 109, 111, 113, 115};
 
 TEST_F(OutOfMemory, ConvertersLeaveTheRecordSound) {
+    const bool shortTextsNeedMemory = FailEach([] { const CKRMString text("x"); }) > 0;
     Arguments arguments({.bits = 255, .decimals = 200, .patterns = {{1, kLong, 1}}, .defaultText = kLong});
     const unsigned char bytes[40] = {'A'};
     for (const int code : AllCodes()) {
@@ -113,7 +114,8 @@ TEST_F(OutOfMemory, ConvertersLeaveTheRecordSound) {
             });
             const auto unchanged = [&record] { EXPECT_STREQ(record.m_strDataPhys.GetText(), ""); };
             const int failures = FailEach([&] { arguments.Raw(*converter, &record, raw); }, unchanged);
-            EXPECT_EQ(failures > 0, kWithShortTexts.count(code) == 0) << code;
+            const bool needsMemory = shortTextsNeedMemory ? code != 113 : kWithShortTexts.count(code) == 0;
+            EXPECT_EQ(failures > 0, needsMemory) << code;
             EXPECT_EQ(arguments.Raw(*converter, &record, raw), code == 113 ? kFailed : 0U);
         }
         FailEach([&] {

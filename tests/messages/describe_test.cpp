@@ -86,6 +86,7 @@ TEST(NameOfMessage, OfAnUntypedMessageNeedsTheDirection) {
 
 TEST(NameOfMessage, OfATypeAndIdThatThereArentIsTheNumbers) {
     CKRMBaseAdaptationData message;
+    message.Clear();  // how it starts is the platform's own
     EXPECT_EQ(NameOf(message, Direction::Send), "type 0, ID 0");
     message.SetCommandType(1);
     message.SetCommandID(4294967295U);
@@ -155,7 +156,9 @@ TEST(DescribeMessage, UntypedItSaysTheSameWithoutTheCount) {
     EXPECT_EQ(Untyped(CKRMCGetHelpInfoVdcAdptDataSnd()), "GetHelpInfo request");
     EXPECT_EQ(Untyped(CKRMCSetUnitConversionInfoUccAdaptDataRcv()), "SetUnitConversionInfo answer");
     EXPECT_EQ(Untyped(CKRMCCreateDiagWordsTableDwtAdaptDataSnd()), "CreateDiagWordsTable request");
-    EXPECT_EQ(DescribeShort(CKRMBaseAdaptationData(), Direction::Send), "type 0, ID 0 request");
+    CKRMBaseAdaptationData cleared;
+    cleared.Clear();
+    EXPECT_EQ(DescribeShort(cleared, Direction::Send), "type 0, ID 0 request");
 }
 
 }  // namespace

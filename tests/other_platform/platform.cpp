@@ -163,10 +163,8 @@ krm_ulong CKRMError::GetErrorCode() const {
 }
 
 void CKRMError::SetErrorCode(krm_ulong code) {
-    if (a_ulTimesSet++ != 0) {
-        a_cEarlierCodes.push_back(a_ulReturnCode);
-    }
-    a_ulReturnCode = code;
+    ++a_ulTimesSet;
+    a_ulEarlierCode = std::exchange(a_ulReturnCode, code);
 }
 
 namespace {

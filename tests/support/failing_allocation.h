@@ -6,6 +6,7 @@
 #define KRM_TESTS_SUPPORT_FAILING_ALLOCATION_H_
 
 #include "gtest/gtest.h"
+#include "krm/platform/platform.h"
 
 namespace krm::test {
 
@@ -27,6 +28,13 @@ public:
 /// The number of blocks that this thread has allocated and not freed.
 inline long LivingBlocks() {
     return ThisThreadsAllocations().living;
+}
+
+/// The number of blocks that a string of `text` has for it: none where the platform's strings have room for it.
+inline long BlocksOf(const char* text) {
+    const long before = LivingBlocks();
+    const CKRMString string(text);
+    return LivingBlocks() - before;
 }
 
 }  // namespace krm::test

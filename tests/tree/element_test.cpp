@@ -774,8 +774,9 @@ TEST(Element, WithoutMemoryNothingIsAdded) {
 
     CKRMError error;
     CKRMCElement* child = &element;
+    const int blocksOfName = static_cast<int>(BlocksOf("A"));
     {
-        const FailAllocations failing(1);
+        const FailAllocations failing(1 + blocksOfName);
         child = element.CreateElement(&error, "A");
     }
     EXPECT_EQ(child, nullptr);

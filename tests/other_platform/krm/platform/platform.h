@@ -137,7 +137,7 @@ private:
     void* m_transport = nullptr;
 };
 
-/// What went wrong, when and how often.
+/// What went wrong, before that what, and how often anything was set.
 class KRM_PLATFORM_API CKRMError {
 public:
     CKRMError() = default;
@@ -156,7 +156,7 @@ public:
     CKRMString a_strErrorFunctionName;
     CKRMString a_strErrorClassName;
     CKRMString a_strErrorModuleName;
-    std::vector<krm_ulong> a_cEarlierCodes;
+    krm_ulong a_ulEarlierCode = 0;
     krm_ulong a_ulReturnCode = 0;
 };
 
