@@ -4,31 +4,22 @@
 #include <set>
 
 #include "hex.h"
-#include "krm/framework/commands.h"
 
 namespace diagnosis_session {
 
-/// Asks the engine one question. With a log, both messages go into it, a line for each of their fields.
+/// Asks the engine one question. With a log, both messages go into it, a heading and a line for each of their fields.
 template <class Request, class Reply>
 void Application::Ask(Request& request, Reply& reply) {
-    if (m_settings.log != nullptr) {
-        std::string ecu;
-        if constexpr (requires { request.m_ulEcuId; }) {
-            ecu = request.m_ulEcuId == 0 ? "" : ", ECU " + HexOfId(request.m_ulEcuId);
-        }
-        Log(request, " request" + ecu);
-        request.ErrWriteOperationLog();
+    if (m_settings.log == nullptr) {
         m_engine.Answer(request, reply);
-        Log(reply, " answer" + ecu);
-        reply.ErrWriteOperationLog();
         return;
     }
+    if (m_now != kNoTime) {
+        m_settings.log->SetTime(m_now);
+    }
+    request.ErrWriteOperationLog();
     m_engine.Answer(request, reply);
-}
-
-void Application::Log(CKRMBaseAdaptationData& message, const std::string& what) {
-    const krm::Command* const command = krm::FindCommand(message.GetCommandType(), message.GetCommandID());
-    m_settings.log->BeginMessage(m_now, (command != nullptr ? command->name : "unknown command") + what);
+    reply.ErrWriteOperationLog();
 }
 
 SessionSummary Application::Run() {

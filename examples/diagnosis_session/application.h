@@ -36,7 +36,6 @@ public:
 private:
     template <class Request, class Reply>
     void Ask(Request& request, Reply& reply);
-    void Log(CKRMBaseAdaptationData& message, const std::string& what);
     template <class Call>
     void Tell(Call call) {
         for (Output* const output : m_settings.outputs) {

@@ -215,6 +215,17 @@ std::variant<CanFrame, BadLine> ParsePrinted(const std::vector<std::string_view>
 
 }  // namespace
 
+std::chrono::system_clock::time_point TimePointOf(Microseconds time) {
+    using TimePoint = std::chrono::system_clock::time_point;
+    using std::chrono::microseconds;
+    if (time == kNoTime) {
+        return {};
+    }
+    const auto latest = std::chrono::floor<microseconds>(TimePoint::max().time_since_epoch());
+    const auto since1970 = std::clamp(microseconds(time), -latest, latest);
+    return TimePoint(std::chrono::duration_cast<TimePoint::duration>(since1970));
+}
+
 std::variant<CanFrame, BadLine> ParseCandumpLine(std::string_view text, std::size_t line) {
     if (std::optional<CanFrame> frame = ParseLogged(text, line)) {
         return *std::move(frame);

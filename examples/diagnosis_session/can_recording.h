@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -25,6 +26,9 @@ inline constexpr Microseconds kNoTime = std::numeric_limits<Microseconds>::min()
 constexpr bool HasDate(Microseconds time) {
     return time >= Microseconds{5} * 365 * 24 * 3600 * 1'000'000;
 }
+
+/// The point in time, as far as the system's clock reaches; the begin of 1970 for kNoTime.
+std::chrono::system_clock::time_point TimePointOf(Microseconds time);
 
 /// The data of a frame. It lies in place: a recording has a frame in every line.
 class FrameData {

@@ -150,6 +150,9 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
                 return interrupted ? std::nullopt : reader->Next();
             },
             [&] { return reader->Totals(); });
+        if (log) {
+            log->SetTime(reader->Totals().first);
+        }
         file.Rewind();
     }
     doing = "decoding";

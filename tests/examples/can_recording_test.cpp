@@ -37,6 +37,17 @@ TEST(CanRecording, ReadsExtendedIdsLowerCaseDirectionsAndCarriageReturns) {
     EXPECT_EQ(FrameOf("(1.0) can0 7DF#").id, 0x7DFU);
 }
 
+TEST(CanRecording, TimesBeyondTheSystemsClockAreItsLast) {
+    using diagnosis_session::TimePointOf;
+    using TimePoint = std::chrono::system_clock::time_point;
+    using std::chrono::microseconds;
+    EXPECT_EQ(TimePointOf(1'731'000'000'048'500), TimePoint(microseconds(1'731'000'000'048'500)));
+    EXPECT_EQ(TimePointOf(diagnosis_session::kNoTime), TimePoint());
+    const auto last = std::chrono::floor<microseconds>(TimePoint::max());
+    EXPECT_EQ(std::chrono::floor<microseconds>(TimePointOf(std::numeric_limits<std::int64_t>::max())), last);
+    EXPECT_LT(TimePointOf(std::numeric_limits<std::int64_t>::min() + 1), TimePoint());
+}
+
 TEST(CanRecording, TellsWhatIsWrongWithALine) {
     const std::string noLine = "not a line of candump -l: expected (SECONDS) INTERFACE ID#DATA";
     EXPECT_EQ(FaultOf("rubbish"), noLine);

@@ -94,7 +94,8 @@ TEST_F(Session, TheOwnRecordingIsDecodedWhole) {
     std::size_t lines = 0;
     std::istringstream logLines(log);
     for (std::string line; std::getline(logLines, line);) {
-        lines += line.starts_with('#') ? 0U : 1U;
+        const bool isHeading = line.starts_with('#') || line.find(" == ") != std::string::npos;
+        lines += isHeading ? 0U : 1U;
     }
     EXPECT_THAT(run.out, EndsWith("\n37 exchanges, 55 values, no faults; written: values " + m_folder.Path("v.csv") +
                                   " (55 rows), operation log " + m_folder.Path("op.log") + " (" +
@@ -218,10 +219,19 @@ TEST_F(Session, TheLogHasAHeadingBeforeEachMessage) {
     ASSERT_EQ(RunSession({recording, m_folder.Path("i.json"), "--operation-log", m_folder.Path("op.log")}).status, 0);
     const std::string log = m_folder.Read("op.log");
     EXPECT_THAT(log, StartsWith("# Operation log of diagnosis_session\n"
-                                "# - GetGroupEcuList request\n"
-                                "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1\n"));
-    EXPECT_THAT(log, HasSubstr("# 2024-11-07 17:20:00.070000 GetDTC request, ECU 7E8\n"));
-    EXPECT_THAT(log, HasSubstr("# 2024-11-07 17:20:00.070000 GetDTC answer, ECU 7E8\n"));
+                                "2024-11-07T17:20:00.048Z 1 == GetGroupEcuList request (type 1, ID 12)\n"
+                                "2024-11-07T17:20:00.048Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] "
+                                "m_dwCommandType=1\n"));
+    EXPECT_THAT(log, HasSubstr("\n2024-11-07T17:20:00.070Z 1 == GetDTC request (type 1, ID 2)\n"
+                               "2024-11-07T17:20:00.070Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] "
+                               "m_dwCommandType=1\n"));
+    EXPECT_THAT(log, HasSubstr("\n2024-11-07T17:20:00.070Z 1 == GetDTC answer (type 1, ID 2)\n"));
+
+    // A recording without times.
+    const std::string timeless = m_folder.Write("t.log", "can0 7DF [3] 02 01 0D\ncan0 7E8 [4] 03 41 0D 01\n");
+    ASSERT_EQ(RunSession({timeless, m_folder.Path("i.json"), "--operation-log", m_folder.Path("op.log")}).status, 0);
+    EXPECT_THAT(m_folder.Read("op.log"), HasSubstr("\n1970-01-01T00:00:00.000Z 1 == GetDataMonitorValue answer "
+                                                   "(type 1, ID 21)\n"));
 }
 
 TEST_F(Session, WithoutALogNothingIsLogged) {
