@@ -23,7 +23,7 @@ void Application::Ask(Request& request, Reply& reply) {
 }
 
 SessionSummary Application::Run() {
-    m_summary.recording.file = m_settings.recordingName;
+    m_summary.recording = m_settings.recording;
     ChooseUnits();
     ListEcus();
     bool begun = false;

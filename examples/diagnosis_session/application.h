@@ -18,8 +18,8 @@ namespace diagnosis_session {
 class Application {
 public:
     struct Settings {
-        std::string recordingName;
-        std::string units;  ///< "metric", "imperial", or empty for the engine's own
+        RecordingInfo recording;  ///< what is known beforehand
+        std::string units;        ///< "metric", "imperial", or empty for the engine's own
         OperationLogFile* log = nullptr;
         std::vector<Output*> outputs;
         /// Called before each request that was heard; false ends the session there.

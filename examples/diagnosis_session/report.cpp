@@ -55,7 +55,7 @@ Report::Report(TextStream& out, std::size_t nameWidth)
     : m_out(out), m_nameWidth(std::clamp<std::size_t>(nameWidth, 8, kLongestName)) {}
 
 void Report::Begin(const RecordingInfo& recording, bool isKnown) {
-    m_out << "Recording  " << OnOneLine(recording.file) << '\n';
+    m_out << "Recording  " << OnOneLine(recording.file) << (recording.isEmpty ? " is empty\n" : "\n");
     if (isKnown) {
         Head(recording);
         m_headWritten = true;

@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <variant>
+
 namespace {
 
 using diagnosis_session::BadLine;

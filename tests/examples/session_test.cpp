@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "examples/diagnosis_session/recording_file.h"
 #include "tests/support/session_run.h"
 
 namespace {
@@ -141,6 +142,8 @@ TEST_F(Session, BadArguments) {
         {{"-x"}, "The following argument was not expected: -x"},
         {{"--log", "x"}, "The following argument was not expected: --log"},
         {{"--operation-log"}, "--operation-log: 1 required FILE missing"},
+        {{"--operation-log", "-"}, "--operation-log: needs a file; standard output has the report"},
+        {{"--values=-"}, "--values: needs a file; standard output has the report"},
         {{"--values", ""}, "--values: needs a file"},
         {{"--units=furlongs"}, "--units: furlongs not in {metric,imperial}"},
         {{"a", "b", "c"}, "The following argument was not expected: c"},
@@ -259,6 +262,10 @@ TEST_F(Session, OtherKindsOfFileAreNamedWithTheCommandThatConvertsThem) {
          "ELF\0\0"s,
          "looks like a binary file; a recording is text, as candump -l writes it"},
         {"drive.json", "{}", "looks like JSON, as item tables are; the recording comes first, then the item table"},
+        {"drive.csv", "exchange,request,item,raw,value,unit,time,ecu,name,text\n",
+         "is a file of values that this program wrote, not a recording\n"},
+        {"drive.op", "# Operation log of diagnosis_session\n",
+         "is an operation log that this program wrote, not a recording\n"},
     };
     for (const auto& [name, content, what] : cases) {
         const std::string path = m_folder.Write(name, content);
@@ -266,6 +273,18 @@ TEST_F(Session, OtherKindsOfFileAreNamedWithTheCommandThatConvertsThem) {
         EXPECT_EQ(run.status, 2) << name;
         EXPECT_THAT(run.err, StartsWith("diagnosis_session: " + path + ": " + what));
     }
+}
+
+TEST_F(Session, NoCommandToConvertAFileWritesIntoThatFile) {
+    EXPECT_EQ(diagnosis_session::OtherKindOfFile("BZh9", "drive.log"),
+              "looks like a file packed with bzip2; make a candump recording of it with: bzip2 -dc drive.log > "
+              "drive.candump.log");
+    EXPECT_EQ(diagnosis_session::OtherKindOfFile("BZh9", "my drive.bz2"),
+              "looks like a file packed with bzip2; make a candump recording of it with: bzip2 -dc 'my drive.bz2' > "
+              "'my drive.log'");
+    EXPECT_EQ(
+        diagnosis_session::OtherKindOfFile("BZh9", "-"),
+        "looks like a file packed with bzip2; make a candump recording of it with: bzip2 -dc FILE > recording.log");
 }
 
 TEST_F(Session, ComplaintsAreCappedWithACountOfTheRest) {
@@ -499,6 +518,8 @@ TEST_F(Session, AnEmptyRecordingHasNothingToSay) {
     EXPECT_EQ(run.err, "");
     EXPECT_THAT(run.out, StartsWith("Recording  " + m_folder.Path("r.log") + " is empty\n           0 frames\n"));
     EXPECT_THAT(run.out, HasSubstr("\n0 exchanges, 0 values, "));
+    const SessionResult json = RunSession({"--json", m_folder.Path("r.log"), m_folder.Path("i.json")});
+    EXPECT_THAT(json.out, HasSubstr("r.log\", \"frames\": 0, "));
 }
 
 TEST_F(Session, ATableThatIsNoTableLeavesTheRestDecoded) {
