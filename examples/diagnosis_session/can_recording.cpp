@@ -117,9 +117,11 @@ std::optional<CanFrame> ParseLogged(std::string_view text, std::size_t line) {
     if (at == end || *at != '(') {
         return std::nullopt;
     }
-    std::int64_t time = 0;
+    // Twelve digits, a point and six more: what is longer doesn't fit the number.
+    constexpr std::ptrdiff_t kLongestTime = 19;
+    std::uint64_t time = 0;
     const char* point = nullptr;
-    for (++at; at != end && *at != ')'; ++at) {
+    for (const char* const begin = ++at; at != end && *at != ')' && at - begin < kLongestTime; ++at) {
         if (*at == '.' && point == nullptr) {
             point = at;
         } else if (const auto digit = static_cast<unsigned>(*at - '0'); digit <= 9) {
@@ -128,11 +130,11 @@ std::optional<CanFrame> ParseLogged(std::string_view text, std::size_t line) {
             return std::nullopt;
         }
     }
-    if (at == end || point == nullptr || at - point != 7 || point - text.data() > 13 || point - text.data() < 2 ||
-        ++at == end || *at != ' ') {
+    if (at == end || *at != ')' || point == nullptr || at - point != 7 || point - text.data() > 13 ||
+        point - text.data() < 2 || ++at == end || *at != ' ') {
         return std::nullopt;
     }
-    frame.time = time;
+    frame.time = static_cast<Microseconds>(time);
     const char* const device = ++at;
     while (at != end && *at > ' ') {
         ++at;

@@ -43,6 +43,15 @@ TEST(CanRecording, ReadsExtendedIdsLowerCaseDirectionsAndCarriageReturns) {
     EXPECT_EQ(FrameOf("(1.0) can0 7DF#").id, 0x7DFU);
 }
 
+TEST(CanRecording, ATimeMayHaveMoreDigitsThanANumberHolds) {
+    EXPECT_EQ(FrameOf("(1731000000.21251000000155000) can0 7DF#0103").time, 1'731'000'000'212'510);
+    EXPECT_EQ(FrameOf("(999999999999.999999) can0 7DF#0103").time, 999'999'999'999'999'999);
+    for (const char* time : {"99999999999999999999.000000", "9999999999999999999", "99999999999999999999999"}) {
+        EXPECT_EQ(FaultOf("(" + std::string(time) + ") can0 7DF#0103"),
+                  "the time stamp is not a decimal number in parentheses");
+    }
+}
+
 TEST(CanRecording, TimesBeyondTheSystemsClockAreItsLast) {
     using diagnosis_session::TimePointOf;
     using TimePoint = std::chrono::system_clock::time_point;
