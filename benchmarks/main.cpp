@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
     krm::bench::RegisterLists();
     krm::bench::RegisterTrees();
     krm::bench::RegisterMemory();
+    krm::bench::RegisterSession();
     krm::bench::RegisterGrowth();
 
     benchmark::Initialize(&argc, argv);

@@ -80,6 +80,7 @@ void RegisterMessages();
 void RegisterLists();
 void RegisterTrees();
 void RegisterMemory();
+void RegisterSession();
 void RegisterGrowth();
 
 }  // namespace krm::bench

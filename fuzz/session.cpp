@@ -192,8 +192,11 @@ void RunSession(const std::string* table, const std::string& recording) {
     // What is no recording at all is said to be something else. Else every line told names a file and a line of it, but
     // for the last ones, which count what is not told; and there is none where all was good.
     std::string told = err.str();
+    const bool isPacked = recording.rfind("\x1F\x8B", 0) == 0;
     if (status == kFailed) {
-        KRM_FUZZ_CHECK(told.rfind("diagnosis_session: " + recordingFile.Path() + ": ", 0) == 0 && out.str().empty());
+        // Nothing is decoded then, but of packed data that is damaged further on.
+        const std::size_t failure = told.find("diagnosis_session: " + recordingFile.Path() + ": ");
+        KRM_FUZZ_CHECK(isPacked ? failure != std::string::npos : failure == 0 && out.str().empty());
         return;
     }
     KRM_FUZZ_CHECK(status == (told.empty() ? kGood : kBadInput));
@@ -207,7 +210,8 @@ void RunSession(const std::string* table, const std::string& recording) {
         }
         char* end = nullptr;
         const unsigned long number = std::strtoul(line.c_str() + path.size() + 1, &end, 10);
-        KRM_FUZZ_CHECK(number >= 1 && number <= LinesOf(isTable ? *table : recording));
+        // How many lines were packed is not seen here.
+        KRM_FUZZ_CHECK(number >= 1 && ((isPacked && !isTable) || number <= LinesOf(isTable ? *table : recording)));
         KRM_FUZZ_CHECK(end[0] == ':');
         if (end[1] != ' ') {
             KRM_FUZZ_CHECK(std::strtoul(end + 1, &end, 10) >= 1 && end[0] == ':');

@@ -4,35 +4,26 @@
 #include <set>
 
 #include "hex.h"
-#include "krm/framework/commands.h"
 
 namespace diagnosis_session {
 
-/// Asks the engine one question. With a log, both messages go into it, a line for each of their fields.
+/// Asks the engine one question. With a log, both messages go into it, a heading and a line for each of their fields.
 template <class Request, class Reply>
 void Application::Ask(Request& request, Reply& reply) {
-    if (m_settings.log != nullptr) {
-        std::string ecu;
-        if constexpr (requires { request.m_ulEcuId; }) {
-            ecu = request.m_ulEcuId == 0 ? "" : ", ECU " + HexOfId(request.m_ulEcuId);
-        }
-        Log(request, " request" + ecu);
-        request.ErrWriteOperationLog();
+    if (m_settings.log == nullptr) {
         m_engine.Answer(request, reply);
-        Log(reply, " answer" + ecu);
-        reply.ErrWriteOperationLog();
         return;
     }
+    if (m_now != kNoTime) {
+        m_settings.log->SetTime(m_now);
+    }
+    request.ErrWriteOperationLog();
     m_engine.Answer(request, reply);
-}
-
-void Application::Log(CKRMBaseAdaptationData& message, const std::string& what) {
-    const krm::Command* const command = krm::FindCommand(message.GetCommandType(), message.GetCommandID());
-    m_settings.log->BeginMessage(m_now, (command != nullptr ? command->name : "unknown command") + what);
+    reply.ErrWriteOperationLog();
 }
 
 SessionSummary Application::Run() {
-    m_summary.recording.file = m_settings.recordingName;
+    m_summary.recording = m_settings.recording;
     ChooseUnits();
     ListEcus();
     bool begun = false;
@@ -42,9 +33,9 @@ SessionSummary Application::Run() {
             Tell([&](Output& output) { output.Begin(m_summary.recording, isKnown); });
         }
     };
+    CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd request;
+    CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv reply;
     while (m_settings.goOn(m_summary.exchanges)) {
-        CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd request;
-        CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv reply;
         Ask(request, reply);
         const Received received = ReadReceived(reply.m_cDmReceiveDataList);
         if (received.hasTotals) {
@@ -111,16 +102,16 @@ void Application::ListEcus() {
     }
 }
 
-/// Connects to an ECU and runs a data monitor on all live values that it has.
+/// Connects to an ECU, unless that was done, and runs a data monitor on all live values that it has.
 void Application::Connect(krm_ulong ecu) {
-    if (m_monitors.contains(ecu)) {
+    const auto [monitor, isNew] = m_monitors.try_emplace(ecu);
+    if (!isNew) {
         return;
     }
     auto& ecus = m_summary.recording.ecus;
     if (std::find(ecus.begin(), ecus.end(), ecu) == ecus.end()) {
         ecus.insert(std::upper_bound(ecus.begin(), ecus.end(), ecu), ecu);
     }
-    unsigned short& monitor = m_monitors[ecu];
     CKRMCEcuConnectCmdAdaptDataSnd connectRequest;
     connectRequest.m_ulEcuId = ecu;
     CKRMCEcuConnectCmdAdaptDataRcv connected;
@@ -151,7 +142,7 @@ void Application::Connect(krm_ulong ecu) {
     start.Data.AddTail(watched);
     CKRMCStartDataMonitorCmdAdaptDataRcv started;
     Ask(start, started);
-    monitor = started.m_bDataMonitorEnable ? watched.m_ushDataMonitorId : 0;
+    monitor->second = started.m_bDataMonitorEnable ? watched.m_ushDataMonitorId : 0;
 }
 
 void Application::HearAnswer(const Received& received, const Received::Answer& said) {
@@ -194,9 +185,7 @@ void Application::HearAnswer(const Received& received, const Received::Answer& s
         CKRMCGetDataMonitorValueCmdAdaptDataSnd poll;
         poll.m_ulEcuId = said.ecu;
         poll.m_ushDataMonitorId = monitor;
-        CKRMCGetDataMonitorValueCmdAdaptDataRcv reply;
-        Ask(poll, reply);
-        TellValues(moment, reply.Data);
+        ReadValues(moment, poll, m_polled);
     } else {
         ReadCurrentValues(received, moment);
     }
@@ -226,9 +215,7 @@ void Application::ReadFreezeFrame(const Received& received, const Moment& moment
         request.m_uchFFDId = received.request[i + 1];
         inFrame.freezeFrame = received.request[i + 1];
     }
-    CKRMCGetFFDCmdAdaptDataRcv reply;
-    Ask(request, reply);
-    TellValues(inFrame, reply.Data);
+    ReadValues(inFrame, request, m_frozen);
 }
 
 /// Any other service: parameter IDs of two bytes in service 22, else of one.
@@ -241,16 +228,23 @@ void Application::ReadCurrentValues(const Received& received, const Moment& mome
         request.m_cPidIdList.AddTail(
             static_cast<unsigned short>(length == 2 ? bytes[i] << 8U | bytes[i + 1] : bytes[i]));
     }
-    CKRMCGetCurrentDataValueCmdAdaptDataRcv reply;
-    Ask(request, reply);
-    TellValues(moment, reply.Data);
+    ReadValues(moment, request, m_current);
 }
 
-void Application::TellValues(const Moment& moment, const CKRMList<CKRMCCommandFFDData>& items) {
-    for (const CKRMCCommandFFDData& item : items) {
+template <class Request, class Reply>
+void Application::ReadValues(const Moment& moment, Request& request, Replies<Reply>& replies) {
+    // Few requests repeat; who asks for ever new ones must not fill the memory.
+    constexpr std::size_t kMostReplies = 1024;
+    const std::pair<krm_ulong, std::string> key(moment.ecu, moment.request);
+    if (replies.size() == kMostReplies && !replies.contains(key)) {
+        replies.clear();
+    }
+    Reply& reply = replies[key];
+    Ask(request, reply);
+    for (const CKRMCCommandFFDData& item : reply.Data) {
         m_summary.values += static_cast<std::uint64_t>(item.m_cDispDataList.GetCount());
     }
-    Tell([&](Output& output) { output.Values(moment, items); });
+    Tell([&](Output& output) { output.Values(moment, reply.Data); });
 }
 
 }  // namespace diagnosis_session

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "engine.h"
@@ -17,8 +18,8 @@ namespace diagnosis_session {
 class Application {
 public:
     struct Settings {
-        std::string recordingName;
-        std::string units;  ///< "metric", "imperial", or empty for the engine's own
+        RecordingInfo recording;  ///< what is known beforehand
+        std::string units;        ///< "metric", "imperial", or empty for the engine's own
         OperationLogFile* log = nullptr;
         std::vector<Output*> outputs;
         /// Called before each request that was heard; false ends the session there.
@@ -35,13 +36,16 @@ public:
 private:
     template <class Request, class Reply>
     void Ask(Request& request, Reply& reply);
-    void Log(CKRMBaseAdaptationData& message, const std::string& what);
     template <class Call>
     void Tell(Call call) {
         for (Output* const output : m_settings.outputs) {
             call(*output);
         }
     }
+
+    /// The last answers, by ECU and request that was heard: the engine changes the values in them, and not the rest.
+    template <class Reply>
+    using Replies = std::map<std::pair<krm_ulong, std::string>, Reply>;
 
     void ChooseUnits();
     void ListEcus();
@@ -50,12 +54,17 @@ private:
     void ReadTroubleCodes(const Moment& moment, bool refused, DtcPhase phase, const char* kind);
     void ReadFreezeFrame(const Received& received, const Moment& moment);
     void ReadCurrentValues(const Received& received, const Moment& moment);
-    void TellValues(const Moment& moment, const CKRMList<CKRMCCommandFFDData>& items);
+    /// Asks for values and tells them.
+    template <class Request, class Reply>
+    void ReadValues(const Moment& moment, Request& request, Replies<Reply>& replies);
 
     Engine& m_engine;
     Settings m_settings;
     SessionSummary m_summary;
     std::map<krm_ulong, unsigned short> m_monitors;  ///< by ECU; 0 where none runs
+    Replies<CKRMCGetDataMonitorValueCmdAdaptDataRcv> m_polled;
+    Replies<CKRMCGetCurrentDataValueCmdAdaptDataRcv> m_current;
+    Replies<CKRMCGetFFDCmdAdaptDataRcv> m_frozen;
     Microseconds m_now = kNoTime;
     Microseconds m_start = kNoTime;
 };

@@ -112,13 +112,16 @@ std::optional<CanFrame> ParseLogged(std::string_view text, std::size_t line) {
     if (at != end && end[-1] == '\r') {
         --end;
     }
-    CanFrame frame{line, 0, {}};
+    CanFrame frame;
+    frame.line = line;
     if (at == end || *at != '(') {
         return std::nullopt;
     }
-    std::int64_t time = 0;
+    // Twelve digits, a point and six more: what is longer doesn't fit the number.
+    constexpr std::ptrdiff_t kLongestTime = 19;
+    std::uint64_t time = 0;
     const char* point = nullptr;
-    for (++at; at != end && *at != ')'; ++at) {
+    for (const char* const begin = ++at; at != end && *at != ')' && at - begin < kLongestTime; ++at) {
         if (*at == '.' && point == nullptr) {
             point = at;
         } else if (const auto digit = static_cast<unsigned>(*at - '0'); digit <= 9) {
@@ -127,11 +130,11 @@ std::optional<CanFrame> ParseLogged(std::string_view text, std::size_t line) {
             return std::nullopt;
         }
     }
-    if (at == end || point == nullptr || at - point != 7 || point - text.data() > 13 || point - text.data() < 2 ||
-        ++at == end || *at != ' ') {
+    if (at == end || *at != ')' || point == nullptr || at - point != 7 || point - text.data() > 13 ||
+        point - text.data() < 2 || ++at == end || *at != ' ') {
         return std::nullopt;
     }
-    frame.time = time;
+    frame.time = static_cast<Microseconds>(time);
     const char* const device = ++at;
     while (at != end && *at > ' ') {
         ++at;
@@ -148,15 +151,13 @@ std::optional<CanFrame> ParseLogged(std::string_view text, std::size_t line) {
         (end - ++at) % 2 != 0 || end - at > 16) {
         return std::nullopt;
     }
-    frame.data.resize(static_cast<std::size_t>(end - at) / 2);
-    for (std::uint8_t& byte : frame.data) {
+    for (; at != end; at += 2) {
         const unsigned high = DigitAt(at);
         const unsigned low = DigitAt(at + 1);
         if (high > 15 || low > 15) {
             return std::nullopt;
         }
-        byte = static_cast<std::uint8_t>(high << 4U | low);
-        at += 2;
+        frame.data.push_back(static_cast<std::uint8_t>(high << 4U | low));
     }
     return frame;
 }
@@ -169,7 +170,8 @@ bool IsLength(std::string_view word) {
 /// What candump prints: its words, of which `length` is the "[8]".
 std::variant<CanFrame, BadLine> ParsePrinted(const std::vector<std::string_view>& words, std::size_t length,
                                              std::size_t line) {
-    CanFrame frame{line, 0, {}};
+    CanFrame frame;
+    frame.line = line;
     std::size_t at = 0;
     if (words[0].starts_with('(')) {
         const bool isDate = words[0].back() != ')';
@@ -196,7 +198,7 @@ std::variant<CanFrame, BadLine> ParsePrinted(const std::vector<std::string_view>
         return BadLine{kFdFrame};
     }
     const auto count = static_cast<std::size_t>(words[length][1] - '0');
-    if (count > 8) {
+    if (count > FrameData::kMost) {
         return BadLine{std::to_string(count) + " data bytes; a CAN frame carries at most 8"};
     }
     if (words.size() > length + 1 && words[length + 1] == "remote") {
@@ -214,6 +216,17 @@ std::variant<CanFrame, BadLine> ParsePrinted(const std::vector<std::string_view>
 }
 
 }  // namespace
+
+std::chrono::system_clock::time_point TimePointOf(Microseconds time) {
+    using TimePoint = std::chrono::system_clock::time_point;
+    using std::chrono::microseconds;
+    if (time == kNoTime) {
+        return {};
+    }
+    const auto latest = std::chrono::floor<microseconds>(TimePoint::max().time_since_epoch());
+    const auto since1970 = std::clamp(microseconds(time), -latest, latest);
+    return TimePoint(std::chrono::duration_cast<TimePoint::duration>(since1970));
+}
 
 std::variant<CanFrame, BadLine> ParseCandumpLine(std::string_view text, std::size_t line) {
     if (std::optional<CanFrame> frame = ParseLogged(text, line)) {
@@ -247,14 +260,14 @@ std::variant<CanFrame, BadLine> ParseCandumpLine(std::string_view text, std::siz
     if (dataDigits.starts_with('R')) {
         return BadLine{kRemoteFrame};
     }
-    std::optional<Bytes> data = BytesOfHex(dataDigits);
+    const std::optional<Bytes> data = BytesOfHex(dataDigits);
     if (!data) {
         return BadLine{"the data is not pairs of hexadecimal digits"};
     }
-    if (data->size() > 8) {
+    if (data->size() > FrameData::kMost) {
         return BadLine{std::to_string(data->size()) + " data bytes; a CAN frame carries at most 8"};
     }
-    return CanFrame{line, *id, *std::move(data), time};
+    return CanFrame{line, *id, FrameData(*data), time};
 }
 
 }  // namespace diagnosis_session

@@ -5,7 +5,6 @@
 #include <iterator>
 
 #include "krm/convert/converter.h"
-#include "received.h"
 
 namespace diagnosis_session {
 namespace {
@@ -93,8 +92,8 @@ bool IsSupportMask(std::uint8_t service, std::span<const std::uint8_t> key) {
 }
 constexpr std::size_t kSupportMaskLength = 4;
 
-/// The parameter IDs that a request names, each as many bytes as the answer repeats of it.
-std::vector<Bytes> KeysOf(const Bytes& request) {
+/// The parameter IDs that a request names, each as many bytes as the answer repeats of it. They lie in the request.
+std::vector<std::span<const std::uint8_t>> KeysOf(const Bytes& request) {
     std::size_t length = request.size() - 1;
     switch (request[0]) {
         case 0x01:
@@ -107,13 +106,12 @@ std::vector<Bytes> KeysOf(const Bytes& request) {
         default:
             break;
     }
-    std::vector<Bytes> keys;
+    std::vector<std::span<const std::uint8_t>> keys;
     if (length == 0) {
         return keys;
     }
     for (std::size_t at = 1; at + length <= request.size(); at += length) {
-        const auto begin = request.begin() + static_cast<std::ptrdiff_t>(at);
-        keys.emplace_back(begin, begin + static_cast<std::ptrdiff_t>(length));
+        keys.push_back(std::span(request).subspan(at, length));
     }
     return keys;
 }
@@ -385,8 +383,8 @@ void DiagnosisEngine::Learn(const Exchange& exchange) {
 
 void DiagnosisEngine::Answer(const CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd&,
                              CKRMCGetDataMonitorReceiveInfoCmdAdaptDataRcv& answer) {
-    Received received;
     if (m_totalsToTell) {
+        Received received;
         received.hasTotals = true;
         received.totals = *std::exchange(m_totalsToTell, std::nullopt);
         WriteReceived(received, answer.m_cDmReceiveDataList);
@@ -395,6 +393,7 @@ void DiagnosisEngine::Answer(const CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd
     EndExchange();
     m_exchange = m_next();
     if (!m_exchange) {
+        Received received;
         received.hasTotals = true;
         received.totals = m_totals();
         received.isEnd = true;
@@ -405,12 +404,13 @@ void DiagnosisEngine::Answer(const CKRMCGetDataMonitorReceiveInfoCmdAdaptDataSnd
         Learn(*m_exchange);
     }
     m_taken.assign(m_exchange->answers.size(), false);
-    received.number = m_exchange->number;
-    received.request = m_exchange->request;
+    m_received.number = m_exchange->number;
+    m_received.request = m_exchange->request;
+    m_received.answers.clear();
     for (const EcuAnswer& said : m_exchange->answers) {
-        received.answers.push_back({said.ecu, said.IsNegative(), said.time});
+        m_received.answers.push_back({said.ecu, said.IsNegative(), said.time});
     }
-    WriteReceived(received, answer.m_cDmReceiveDataList);
+    WriteReceived(m_received, answer.m_cDmReceiveDataList);
 }
 
 /// All answers to the request were taken: tells which of its parameters nobody answered.
@@ -422,9 +422,9 @@ void DiagnosisEngine::EndExchange() {
     const bool someAnswered = std::any_of(exchange.answers.begin(), exchange.answers.end(),
                                           [](const EcuAnswer& answer) { return !answer.IsNegative(); });
     if (someAnswered && exchange.request.size() > 2) {
-        const std::vector<Bytes> keys = KeysOf(exchange.request);
-        for (const Bytes& key : keys) {
-            if (keys.size() > 1 && !m_answeredKeys.contains(key)) {
+        const std::vector<std::span<const std::uint8_t>> keys = KeysOf(exchange.request);
+        for (const std::span<const std::uint8_t> key : keys) {
+            if (keys.size() > 1 && !m_answeredKeys.contains(Bytes(key.begin(), key.end()))) {
                 m_complain(exchange.line,
                            "request " + HexOf(exchange.request) + " has no answer for parameter " + HexOf(key));
             }
@@ -546,9 +546,11 @@ void DiagnosisEngine::Answer(const CKRMCClearDTCCmdAdaptDataSnd& request, CKRMCC
     }
 }
 
-void DiagnosisEngine::FillValues(const EcuAnswer& said, const std::set<std::uint32_t>* pids,
+void DiagnosisEngine::FillValues(const EcuAnswer* said, const std::set<std::uint32_t>* pids,
                                  CKRMCBaseCmdAdaptDataRcv& answer, CKRMList<CKRMCCommandFFDData>& items) {
-    if (Refused(said, answer)) {
+    ListWriter<CKRMCCommandFFDData> writer(items);
+    answer.m_bNotSupport = false;
+    if (said == nullptr || Refused(*said, answer)) {
         return;
     }
     // What is wrong with the request itself is told once, however many ECUs answer it.
@@ -559,44 +561,36 @@ void DiagnosisEngine::FillValues(const EcuAnswer& said, const std::set<std::uint
     };
     const std::uint8_t service = m_exchange->Service();
     bool anyKnown = false;
-    for (const Parameter& parameter : Split(*m_exchange, said, once)) {
+    for (const Parameter& parameter : Split(*m_exchange, *said, once)) {
         if (m_exchange->request.size() > 2) {
-            m_answeredKeys.insert(parameter.key);  // only of several can some be missing
+            // Only of several can some be missing.
+            m_answeredKeys.emplace(parameter.key.begin(), parameter.key.end());
         }
         anyKnown = anyKnown || parameter.command != nullptr || IsSupportMask(service, parameter.key);
         if (pids == nullptr || pids->contains(PidOf(service, parameter.key))) {
-            FillItems(said, parameter, items, once);
+            FillItems(*said, parameter, writer, once);
         }
     }
     answer.m_bNotSupport = !anyKnown;
 }
 
 void DiagnosisEngine::Answer(const CKRMCGetFFDCmdAdaptDataSnd& request, CKRMCGetFFDCmdAdaptDataRcv& answer) {
-    if (const EcuAnswer* const said = Take(request.m_ulEcuId)) {
-        FillValues(*said, nullptr, answer, answer.Data);
-    }
+    FillValues(Take(request.m_ulEcuId), nullptr, answer, answer.Data);
 }
 
 void DiagnosisEngine::Answer(const CKRMCGetCurrentDataValueCmdAdaptDataSnd& request,
                              CKRMCGetCurrentDataValueCmdAdaptDataRcv& answer) {
-    if (const EcuAnswer* const said = Take(request.m_ulEcuId)) {
-        FillValues(*said, nullptr, answer, answer.Data);
-    }
+    FillValues(Take(request.m_ulEcuId), nullptr, answer, answer.Data);
 }
 
 void DiagnosisEngine::Answer(const CKRMCGetDataMonitorValueCmdAdaptDataSnd& request,
                              CKRMCGetDataMonitorValueCmdAdaptDataRcv& answer) {
     const auto found = m_monitors.find(request.m_ushDataMonitorId);
-    if (found == m_monitors.end()) {
-        answer.m_bNotSupport = true;
-        return;
-    }
-    if (!m_exchange || m_exchange->Service() != 0x01) {
-        return;
-    }
-    if (const EcuAnswer* const said = Take(found->second.ecu)) {
-        FillValues(*said, &found->second.pids, answer, answer.Data);
-    }
+    const bool isRunning = found != m_monitors.end();
+    const bool isPolled = isRunning && m_exchange && m_exchange->Service() == 0x01;
+    FillValues(isPolled ? Take(found->second.ecu) : nullptr, isRunning ? &found->second.pids : nullptr, answer,
+               answer.Data);
+    answer.m_bNotSupport = answer.m_bNotSupport || !isRunning;
 }
 
 void DiagnosisEngine::Answer(const CKRMCGetDataMonitorListCmdAdaptDataSnd& request,
@@ -668,7 +662,7 @@ void DiagnosisEngine::Answer(const CKRMCStartDataMonitorCmdAdaptDataSnd& request
 std::vector<DiagnosisEngine::Parameter> DiagnosisEngine::Split(const Exchange& exchange, const EcuAnswer& answer,
                                                                const Complain& complain) const {
     const std::uint8_t service = exchange.Service();
-    std::vector<Bytes> keys = KeysOf(exchange.request);
+    std::vector<std::span<const std::uint8_t>> keys = KeysOf(exchange.request);
     std::vector<Parameter> parameters;
     if (keys.empty()) {
         TellUnknown(exchange, {}, false, complain);
@@ -677,7 +671,7 @@ std::vector<DiagnosisEngine::Parameter> DiagnosisEngine::Split(const Exchange& e
     const std::size_t keyLength = keys.front().size();
     std::span<const std::uint8_t> rest = std::span(answer.bytes).subspan(1);
     while (!rest.empty()) {
-        const auto key = std::find_if(keys.begin(), keys.end(), [&](const Bytes& wanted) {
+        const auto key = std::find_if(keys.begin(), keys.end(), [&](std::span<const std::uint8_t> wanted) {
             return rest.size() >= keyLength && std::equal(wanted.begin(), wanted.end(), rest.begin());
         });
         if (key == keys.end()) {
@@ -692,7 +686,7 @@ std::vector<DiagnosisEngine::Parameter> DiagnosisEngine::Split(const Exchange& e
             // Without its length, nothing behind it can be told apart.
             TellUnknown(exchange, parameter.key, !keys.empty(), complain);
             parameters.push_back(parameter);
-            for (const Bytes& hidden : keys) {
+            for (const std::span<const std::uint8_t> hidden : keys) {
                 parameters.push_back({hidden, {}, nullptr});
             }
             break;
@@ -710,21 +704,16 @@ std::vector<DiagnosisEngine::Parameter> DiagnosisEngine::Split(const Exchange& e
 
 const ItemCommand* DiagnosisEngine::FindCommand(std::uint8_t service, std::span<const std::uint8_t> key,
                                                 std::uint32_t ecu) const {
-    const auto find = [&](std::uint8_t tableService, std::span<const std::uint8_t> parameter) {
-        Bytes request{tableService};
-        request.insert(request.end(), parameter.begin(), parameter.end());
-        return m_table.Find(request, ecu);
-    };
     if (service != 0x02) {
-        return find(service, key);
+        return m_table.Find(service, key, ecu);
     }
     // A freeze frame holds the parameters of service 01, unless the table says otherwise.
-    const ItemCommand* const own = find(0x02, key.first(1));
-    return own != nullptr ? own : find(0x01, key.first(1));
+    const ItemCommand* const own = m_table.Find(0x02, key.first(1), ecu);
+    return own != nullptr ? own : m_table.Find(0x01, key.first(1), ecu);
 }
 
 void DiagnosisEngine::FillItems(const EcuAnswer& answer, const Parameter& parameter,
-                                CKRMList<CKRMCCommandFFDData>& items, const Complain& complain) {
+                                ListWriter<CKRMCCommandFFDData>& items, const Complain& complain) {
     if (parameter.command == nullptr) {
         return;
     }
@@ -743,9 +732,11 @@ void DiagnosisEngine::FillItems(const EcuAnswer& answer, const Parameter& parame
             complain(answer.line, "the data" + where() + " ends within item " + item.id);
             continue;
         }
-        // Step 1: what the item is, into the message.
+        // Step 1: what the item is, into the message, unless it is there from an earlier answer.
         const Prepared& prepared = Prepare(item, parameter.command->request);
-        CKRMCCommandFFDData& record = *CKRMListIterator<CKRMCCommandFFDData>(items.AddTail(prepared.record));
+        CKRMCCommandFFDData& record = items.Put(prepared.record, [&](const CKRMCCommandFFDData& there) {
+            return there.m_ushId == item.number && there.m_cDispDataList.GetCount() == 1;
+        });
         record.m_cDataLayout.m_ulPidNo = PidOf(exchange.Service(), parameter.key);
         record.m_cDataLayout.m_ulDataLen = static_cast<krm_ulong>(parameter.data.size());
         // Step 2: its value. An ECU may leave out the last items of a parameter; such an item has no display value.
@@ -759,7 +750,7 @@ void DiagnosisEngine::FillItems(const EcuAnswer& answer, const Parameter& parame
 }
 
 /// A file that isn't a table at all was told before: then nothing is known, and no request is told.
-void DiagnosisEngine::TellUnknown(const Exchange& exchange, const Bytes& key, bool hidesMore,
+void DiagnosisEngine::TellUnknown(const Exchange& exchange, std::span<const std::uint8_t> key, bool hidesMore,
                                   const Complain& complain) const {
     if (!m_table.IsUsable()) {
         return;

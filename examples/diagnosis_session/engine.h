@@ -27,6 +27,8 @@
 #include "krm/messages/diag/freeze_frames.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/vehicle.h"
+#include "list_writer.h"
+#include "received.h"
 #include "units.h"
 
 namespace diagnosis_session {
@@ -50,7 +52,9 @@ class Engine {
 public:
     virtual ~Engine() = default;
     /// Fills `answer`, fresh from its constructor, as `request` asks; it is the receive message of the same command.
-    /// A command that the engine doesn't know stays unanswered.
+    /// A command that the engine doesn't know stays unanswered. An answer that is given again and again may be the one of
+    /// an earlier call, filled anew: GetDataMonitorReceiveInfo, GetDataMonitorValue, GetCurrentDataValue, GetFFD. Items that
+    /// were in it then and are now stay, but for their values, which saves most of the work.
     virtual void Answer(CKRMBaseAdaptationData& request, CKRMBaseAdaptationData& answer) = 0;
 };
 
@@ -71,8 +75,8 @@ public:
 
     void Answer(CKRMBaseAdaptationData& request, CKRMBaseAdaptationData& answer) override;
 
-    // Each fills `answer`, a message fresh from its constructor, as `request` asks. m_bNotSupport is set where the ECU or
-    // the engine doesn't support what was asked.
+    // Each fills `answer` as `request` asks. m_bNotSupport is set where the ECU or the engine doesn't support what was
+    // asked.
 
     /// The next request that was heard, as ReadReceived reads it. After a survey the first answer holds its totals and no
     /// request.
@@ -100,7 +104,7 @@ private:
 
     /// One parameter of an answer, and the data behind its ID.
     struct Parameter {
-        Bytes key;  ///< parameter ID as in the request; with the frame number for service 02
+        std::span<const std::uint8_t> key;  ///< parameter ID as in the request; with the frame number for service 02
         std::span<const std::uint8_t> data;
         const ItemCommand* command = nullptr;  ///< null where the table has none
     };
@@ -122,14 +126,15 @@ private:
     /// Goes on to the next answer of the ECU; null where there is none.
     const EcuAnswer* Take(krm_ulong ecu);
     bool Refused(const EcuAnswer& said, CKRMCBaseCmdAdaptDataRcv& answer);
-    /// Fills in what the ECU said, but for `pids`, where they are given, no other parameters.
-    void FillValues(const EcuAnswer& said, const std::set<std::uint32_t>* pids, CKRMCBaseCmdAdaptDataRcv& answer,
+    /// Fills in what the ECU said, nothing where it said nothing; of the parameters only `pids`, where they are given.
+    void FillValues(const EcuAnswer* said, const std::set<std::uint32_t>* pids, CKRMCBaseCmdAdaptDataRcv& answer,
                     CKRMList<CKRMCCommandFFDData>& items);
     std::vector<Parameter> Split(const Exchange& exchange, const EcuAnswer& answer, const Complain& complain) const;
     const ItemCommand* FindCommand(std::uint8_t service, std::span<const std::uint8_t> key, std::uint32_t ecu) const;
-    void FillItems(const EcuAnswer& answer, const Parameter& parameter, CKRMList<CKRMCCommandFFDData>& items,
+    void FillItems(const EcuAnswer& answer, const Parameter& parameter, ListWriter<CKRMCCommandFFDData>& items,
                    const Complain& complain);
-    void TellUnknown(const Exchange& exchange, const Bytes& key, bool hidesMore, const Complain& complain) const;
+    void TellUnknown(const Exchange& exchange, std::span<const std::uint8_t> key, bool hidesMore,
+                     const Complain& complain) const;
     const Prepared& Prepare(const Item& item, const Bytes& request);
 
     const ItemTable& m_table;
@@ -140,6 +145,7 @@ private:
     std::optional<RecordingTotals> m_totalsToTell;
     std::map<std::uint32_t, Ecu> m_ecus;
     std::optional<Exchange> m_exchange;  ///< that was heard last
+    Received m_received;                 ///< what was told of it
     std::vector<bool> m_taken;           ///< of its answers
     std::set<Bytes> m_answeredKeys;
     std::map<unsigned short, Monitor> m_monitors;

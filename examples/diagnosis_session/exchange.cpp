@@ -71,14 +71,15 @@ public:
     Sorter(const Sorter&) = delete;
     Sorter& operator=(const Sorter&) = delete;
 
-    void AddLine(std::string_view text, std::size_t line) {
+    /// Whether the line completes an exchange, which Take then gives.
+    bool AddLine(std::string_view text, std::size_t line) {
         if (std::all_of(text.begin(), text.end(), [](char c) { return c == ' ' || c == '\t' || c == '\r'; })) {
-            return;
+            return false;
         }
         const std::variant<CanFrame, BadLine> parsed = ParseCandumpLine(text, line);
         if (const auto* bad = std::get_if<BadLine>(&parsed)) {
             m_complain(line, bad->what);
-            return;
+            return false;
         }
         const auto& frame = std::get<CanFrame>(parsed);
         ++m_totals.frames;
@@ -92,7 +93,7 @@ public:
                 m_complain(line, "CAN ID " + HexOfId(frame.id) +
                                      " is neither a request's nor an answer's; its frames are left out");
             }
-            return;
+            return false;
         }
         if (std::optional<IsoTpMessage> message = m_assembler.Add(frame)) {
             if (isRequest) {
@@ -101,9 +102,10 @@ public:
                 AddAnswer(*std::move(message));
             }
         }
+        return m_complete.has_value();
     }
 
-    /// The exchange that the last line completed.
+    /// The exchange that is complete, once.
     std::optional<Exchange> Take() { return std::exchange(m_complete, std::nullopt); }
 
     /// Nothing more comes at all.
@@ -182,9 +184,8 @@ ExchangeReader::~ExchangeReader() = default;
 
 std::optional<Exchange> ExchangeReader::Next() {
     for (std::string_view line; m_lines.Next(line);) {
-        m_sorter->AddLine(line, ++m_line);
-        if (std::optional<Exchange> exchange = m_sorter->Take()) {
-            return exchange;
+        if (m_sorter->AddLine(line, ++m_line)) {
+            return m_sorter->Take();
         }
     }
     m_sorter->End();

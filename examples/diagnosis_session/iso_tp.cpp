@@ -59,8 +59,8 @@ std::optional<IsoTpMessage> IsoTpAssembler::AddSingle(Sender& sender, const CanF
                    Number(carried));
         return std::nullopt;
     }
-    const auto begin = frame.data.begin() + 1;
-    return IsoTpMessage{frame.line, frame.id, Bytes(begin, begin + static_cast<std::ptrdiff_t>(length)), frame.time};
+    const std::uint8_t* const begin = frame.data.begin() + 1;
+    return IsoTpMessage{frame.line, frame.id, Bytes(begin, begin + length), frame.time};
 }
 
 void IsoTpAssembler::AddFirst(Sender& sender, const CanFrame& frame) {
@@ -114,8 +114,8 @@ std::optional<IsoTpMessage> IsoTpAssembler::AddConsecutive(Sender& sender, const
         return std::nullopt;
     }
     // What the last frame carries beyond the promised length is padding.
-    const auto begin = frame.data.begin() + 1;
-    bytes.insert(bytes.end(), begin, begin + static_cast<std::ptrdiff_t>(std::min(missing, carried)));
+    const std::uint8_t* const begin = frame.data.begin() + 1;
+    bytes.insert(bytes.end(), begin, begin + std::min(missing, carried));
     sender.nextSequence = (sender.nextSequence + 1) % 16;
     if (bytes.size() < sender.promised) {
         return std::nullopt;
@@ -126,10 +126,10 @@ std::optional<IsoTpMessage> IsoTpAssembler::AddConsecutive(Sender& sender, const
 
 std::size_t IsoTpAssembler::End() {
     std::size_t brokenOff = 0;
-    for (const auto& [id, sender] : m_senders) {
+    for (auto& [id, sender] : m_senders) {
         brokenOff += TellBrokenOff(sender) ? 1U : 0U;
+        sender = Sender{};
     }
-    m_senders.clear();
     return brokenOff;
 }
 

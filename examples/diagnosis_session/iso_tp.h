@@ -32,8 +32,8 @@ public:
     /// passed over.
     std::optional<IsoTpMessage> Add(const CanFrame& frame);
 
-    /// Nothing more belongs to what is under way: tells which messages broke off and forgets all senders. Returns how
-    /// many there were.
+    /// Nothing more belongs to what is under way: tells which messages broke off and lets every sender begin anew.
+    /// Returns how many broke off.
     std::size_t End();
 
 private:

@@ -364,9 +364,12 @@ ItemTable ItemTable::Parse(std::string_view text, const Complain& complain) {
     return table;
 }
 
-const ItemCommand* ItemTable::Find(std::span<const std::uint8_t> request, std::uint32_t ecu) const {
+const ItemCommand* ItemTable::Find(std::uint8_t service, std::span<const std::uint8_t> parameter,
+                                   std::uint32_t ecu) const {
     const ItemCommand* ofAnother = nullptr;
-    const auto found = m_commandsByRequest.find(std::string(request.begin(), request.end()));
+    std::string request(1, static_cast<char>(service));
+    request.append(parameter.begin(), parameter.end());
+    const auto found = m_commandsByRequest.find(request);
     if (found == m_commandsByRequest.end()) {
         return nullptr;
     }
@@ -379,7 +382,7 @@ const ItemCommand* ItemTable::Find(std::span<const std::uint8_t> request, std::u
             ofAnother = &command;
         }
     }
-    const bool standardised = !request.empty() && request[0] <= 0x0A;
+    const bool standardised = service <= 0x0A;
     return standardised ? ofAnother : nullptr;
 }
 

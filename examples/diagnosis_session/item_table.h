@@ -79,7 +79,10 @@ public:
 
     /// The command of `request` (service and parameter ID) for the ECU that answers with `ecu`, or null. A command that
     /// names another ECU counts only for the services whose parameters are the same in every ECU.
-    const ItemCommand* Find(std::span<const std::uint8_t> request, std::uint32_t ecu) const;
+    const ItemCommand* Find(std::span<const std::uint8_t> request, std::uint32_t ecu) const {
+        return request.empty() ? nullptr : Find(request[0], request.subspan(1), ecu);
+    }
+    const ItemCommand* Find(std::uint8_t service, std::span<const std::uint8_t> parameter, std::uint32_t ecu) const;
 
     /// The text of a trouble code such as "P0301", empty where the table has none.
     std::string TroubleCodeText(const std::string& code) const;

@@ -1,57 +1,44 @@
 #include "operation_log_file.h"
 
-#include <chrono>
-#include <cstdio>
+#include "krm/platform/platform.h"
 
 namespace diagnosis_session {
+namespace {
 
-std::string TimeText(Microseconds time) {
-    if (time == kNoTime) {
-        return "-";
-    }
-    constexpr std::int64_t kMillion = 1'000'000;
-    char text[64];
-    if (!HasDate(time)) {
-        std::snprintf(text, sizeof text, "%lld.%06lld", static_cast<long long>(time / kMillion),
-                      static_cast<long long>(time % kMillion));
-        return text;
-    }
-    const auto sinceEpoch = std::chrono::sys_time<std::chrono::microseconds>(std::chrono::microseconds(time));
-    const auto midnight = std::chrono::floor<std::chrono::days>(sinceEpoch);
-    const std::chrono::year_month_day date(midnight);
-    const std::chrono::hh_mm_ss clock(sinceEpoch - midnight);
-    std::snprintf(text, sizeof text, "%04d-%02u-%02u %02d:%02d:%02d.%06d", static_cast<int>(date.year()),
-                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                  static_cast<int>(clock.hours().count()), static_cast<int>(clock.minutes().count()),
-                  static_cast<int>(clock.seconds().count()), static_cast<int>(clock.subseconds().count()));
-    return text;
-}
+constexpr std::size_t kMuch = std::size_t{64} * 1024;
+
+}  // namespace
 
 OperationLogFile::OperationLogFile(const std::string& path) : m_file(path, kFirstLine, "an operation log") {
     m_file.Write(kFirstLine);
-    KRMC_ER_SetOperationLogSink(&Write, this);
+    m_log.emplace(m_text, [this] { return m_time; });
+    KRMC_ER_SetOperationLogSink(&krm::WriteToSink<OperationLogFile>, this);
 }
 
 OperationLogFile::~OperationLogFile() {
     KRMC_ER_SetOperationLogSink(nullptr, nullptr);
 }
 
-void OperationLogFile::BeginMessage(Microseconds time, std::string_view name) {
-    m_file.Write("# " + TimeText(time) + ' ');
-    m_file.Write(name);
-    m_file.Write("\n");
+krm_long OperationLogFile::Write(std::string_view line, int first, int second) {
+    ++m_lines;
+    const krm_long result = m_log->Write(line, first, second);
+    if (m_text.view().size() >= kMuch) {
+        PassOn();
+    }
+    return result;
+}
+
+/// The log writes to memory first: a stream of its own would keep to itself why a file takes no more.
+void OperationLogFile::PassOn() {
+    m_file.Write(m_text.view());
+    m_text.str(std::string());
 }
 
 void OperationLogFile::Close() {
+    KRMC_ER_SetOperationLogSink(nullptr, nullptr);
+    m_log.reset();  // which may still hold lines
+    PassOn();
     m_file.Close();
-}
-
-krm_long OperationLogFile::Write(void* context, const char* text, krm_ulong textLength, int, int) {
-    auto& self = *static_cast<OperationLogFile*>(context);
-    self.m_file.Write({text, textLength});
-    self.m_file.Write("\n");
-    ++self.m_lines;
-    return 0;
 }
 
 }  // namespace diagnosis_session

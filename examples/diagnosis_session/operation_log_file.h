@@ -1,19 +1,22 @@
-// Writes the operation log into a file, with a heading before the lines of each message.
+// Writes the operation log into a file, as people read it.
 #ifndef KRM_EXAMPLES_DIAGNOSIS_SESSION_OPERATION_LOG_FILE_H_
 #define KRM_EXAMPLES_DIAGNOSIS_SESSION_OPERATION_LOG_FILE_H_
 
-#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <sstream>
 #include <string>
 #include <string_view>
 
 #include "can_recording.h"
-#include "krm/platform/platform.h"
+#include "krm/framework/log_sinks.h"
 #include "output_file.h"
 
 namespace diagnosis_session {
 
-/// While it lives, every line of the operation log goes into its file. There is one operation log in a process, so use
-/// one of these at a time.
+/// While it lives, every line of the operation log goes into its file: with a time, and with a heading before each message,
+/// as krm::HeadedLog has them. The time is the recording's. There is one operation log in a process, so use one of these at
+/// a time, in one thread.
 class OperationLogFile {
 public:
     /// How such a file begins, by which it is recognised.
@@ -26,23 +29,26 @@ public:
     OperationLogFile(const OperationLogFile&) = delete;
     OperationLogFile& operator=(const OperationLogFile&) = delete;
 
-    /// Begins the lines of a message: "# TIME NAME". The time is the recording's, in UTC where it has dates.
-    void BeginMessage(Microseconds time, std::string_view name);
+    /// The time of the lines that follow. Before the first one, and where the recording has none, it is the begin of 1970.
+    void SetTime(Microseconds time) { m_time = TimePointOf(time); }
 
-    /// Writes out what is still buffered. Throws FileError where the file didn't take all up to now.
+    /// A line of the log. Throws FileError where the file doesn't take what was written up to now.
+    krm_long Write(std::string_view line, int first, int second);
+
+    /// Gives the log back and writes out what is still buffered. Throws FileError likewise.
     void Close();
     /// Lines of messages, without the headings.
-    std::size_t LineCount() const { return m_lines; }
+    std::uint64_t LineCount() const { return m_lines; }
 
 private:
-    static krm_long Write(void* context, const char* text, krm_ulong textLength, int first, int second);
+    void PassOn();
 
     OutputFile m_file;
-    std::size_t m_lines = 0;
+    std::chrono::system_clock::time_point m_time{};
+    std::ostringstream m_text;
+    std::optional<krm::HeadedLog> m_log;
+    std::uint64_t m_lines = 0;
 };
-
-/// "2024-11-07 17:20:00.048500", or the seconds alone where the recording has no dates, or "-".
-std::string TimeText(Microseconds time);
 
 }  // namespace diagnosis_session
 

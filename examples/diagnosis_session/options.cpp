@@ -10,6 +10,10 @@ std::string NotEmpty(const std::string& text) {
     return text.empty() ? "needs a file" : "";
 }
 
+std::string NotStandardOutput(const std::string& text) {
+    return text == "-" ? "needs a file; standard output has the report" : NotEmpty(text);
+}
+
 }  // namespace
 
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
@@ -19,18 +23,18 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
     app.set_help_flag("-h,--help", "Show this text");
     app.set_version_flag("--version", "diagnosis_session " KRM_VERSION, "Show the version");
     const CLI::Validator file(NotEmpty, "");
+    const CLI::Validator outputFile(NotStandardOutput, "");
     app.add_option("RECORDING", line.options.recording,
-                   "What candump -l wrote, or what candump printed; packed with gzip or not; - for standard input; "
-                   "default: the example's own")
+                   "What candump -l wrote or candump printed, gzip or not; - is standard input; default: the example's")
         ->type_name("")
         ->check(file);
-    app.add_option("ITEMS", line.options.items, "JSON table of the values in the answers; default: the example's own")
+    app.add_option("ITEMS", line.options.items, "JSON table of the values in the answers; default: the example's")
         ->type_name("")
         ->check(file);
     app.add_option("--operation-log", line.options.operationLog, "Write every message, a line for each of its fields")
         ->type_name("FILE")
-        ->check(file);
-    app.add_option("--values", line.options.values, "Write every value as CSV")->type_name("FILE")->check(file);
+        ->check(outputFile);
+    app.add_option("--values", line.options.values, "Write every value as CSV")->type_name("FILE")->check(outputFile);
     app.add_option("--units", line.options.units, "Show values in metric (default) or imperial units")
         ->type_name("SYSTEM")
         ->check(CLI::IsMember({"metric", "imperial"}));

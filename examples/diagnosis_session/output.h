@@ -21,6 +21,7 @@ namespace diagnosis_session {
 /// What the recording is, or as much of it as was read.
 struct RecordingInfo {
     std::string file;
+    bool isEmpty = false;  ///< the file has nothing in it
     RecordingTotals totals;
     std::vector<std::uint32_t> ecus;  ///< CAN IDs that ECUs answer with
 };

@@ -34,10 +34,14 @@ std::string ProgressLine(const char* doing, std::uint64_t bytes, std::optional<s
     return line;
 }
 
-void Progress::Show(const char* doing, std::uint64_t bytes, std::optional<std::uint64_t> total,
-                    std::uint64_t exchanges) {
+void Progress::Begin(const char* doing) {
+    m_doing = doing;
+    m_begin = std::chrono::steady_clock::now();
+}
+
+void Progress::Show(std::uint64_t bytes, std::optional<std::uint64_t> total, std::uint64_t exchanges) {
     const std::chrono::duration<double> since = std::chrono::steady_clock::now() - m_begin;
-    const std::string line = ProgressLine(doing, bytes, total, exchanges, since.count());
+    const std::string line = ProgressLine(m_doing, bytes, total, exchanges, since.count());
     Hide();
     m_out << line << std::flush;
     m_shown = line.size();

@@ -18,17 +18,20 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    /// Draws the bar, if it is time to. `total` is missing where nobody knows it.
-    void Show(const char* doing, std::uint64_t bytes, std::optional<std::uint64_t> total, std::uint64_t exchanges);
+    /// What the program begins to do, which `doing` names, and the time left is counted for.
+    void Begin(const char* doing);
+    /// Draws the bar. `total` is missing where nobody knows it.
+    void Show(std::uint64_t bytes, std::optional<std::uint64_t> total, std::uint64_t exchanges);
     void Hide();
 
 private:
     std::ostream& m_out;
-    std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
+    const char* m_doing = "";
+    std::chrono::steady_clock::time_point m_begin;
     std::size_t m_shown = 0;  ///< characters on the line
 };
 
-/// The bar's line: "[####      ]  40 %   80.0 of 200.0 MB   1234567 exchanges   12 s left".
+/// The bar's line: "decoding [####      ]  40 %  80.0 of 200.0 MB  1234567 exchanges  12 s left".
 std::string ProgressLine(const char* doing, std::uint64_t bytes, std::optional<std::uint64_t> total,
                          std::uint64_t exchanges, double seconds);
 

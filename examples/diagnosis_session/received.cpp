@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "list_writer.h"
+
 namespace diagnosis_session {
 namespace {
 
@@ -17,22 +19,24 @@ enum class What : unsigned short {
     End = 8,  ///< nothing more will come
 };
 
-void Put(CKRMList<CKRMCCommandDmReceiveData>& records, What what, std::uint32_t value, std::size_t id = 0) {
+using Records = ListWriter<CKRMCCommandDmReceiveData>;
+
+void Put(Records& records, What what, std::uint32_t value, std::size_t id = 0) {
     CKRMCCommandDmReceiveData record;
     record.m_ushMessageType = static_cast<unsigned short>(what);
     record.m_ulRidRecvValue = value;
     record.m_ushRidId = static_cast<unsigned short>(id);
-    records.AddTail(record);
+    records.Put(record);
 }
 
-void PutHalves(CKRMList<CKRMCCommandDmReceiveData>& records, What what, std::uint64_t value) {
+void PutHalves(Records& records, What what, std::uint64_t value) {
     Put(records, what, static_cast<std::uint32_t>(value & 0xFFFFFFFFU), 0);
     if (value >> 32U != 0) {
         Put(records, what, static_cast<std::uint32_t>(value >> 32U), 1);
     }
 }
 
-void PutTime(CKRMList<CKRMCCommandDmReceiveData>& records, What what, Microseconds time) {
+void PutTime(Records& records, What what, Microseconds time) {
     if (time != kNoTime) {
         PutHalves(records, what, static_cast<std::uint64_t>(time));
     }
@@ -47,7 +51,8 @@ void TakeHalf(const CKRMCCommandDmReceiveData& record, Number& number) {
 
 }  // namespace
 
-void WriteReceived(const Received& received, CKRMList<CKRMCCommandDmReceiveData>& records) {
+void WriteReceived(const Received& received, CKRMList<CKRMCCommandDmReceiveData>& list) {
+    Records records(list);
     if (received.hasTotals) {
         PutHalves(records, What::Frames, received.totals.frames);
         PutTime(records, What::FirstTime, received.totals.first);
@@ -76,6 +81,7 @@ void WriteReceived(const Received& received, CKRMList<CKRMCCommandDmReceiveData>
 
 Received ReadReceived(const CKRMList<CKRMCCommandDmReceiveData>& records) {
     Received received;
+    received.request.reserve(4);
     for (const CKRMCCommandDmReceiveData& record : records) {
         switch (static_cast<What>(record.m_ushMessageType)) {
             case What::Exchange:

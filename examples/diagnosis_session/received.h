@@ -31,7 +31,7 @@ struct Received {
     std::vector<Answer> answers;
 };
 
-/// Writes it as records of the message. Each carries 32 bits; m_ushMessageType says of what, m_ushRidId which of them.
+/// Writes it as the message's records, whatever they were before. Each carries 32 bits; m_ushMessageType says of what, m_ushRidId which of them.
 void WriteReceived(const Received& received, CKRMList<CKRMCCommandDmReceiveData>& records);
 Received ReadReceived(const CKRMList<CKRMCCommandDmReceiveData>& records);
 

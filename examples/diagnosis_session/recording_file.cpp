@@ -19,6 +19,8 @@
 #endif
 
 #include "can_recording.h"
+#include "operation_log_file.h"
+#include "values_file.h"
 
 namespace diagnosis_session {
 namespace {
@@ -65,10 +67,14 @@ std::string Quoted(const std::string& path) {
     return quoted + '\'';
 }
 
-/// The file's name with another ending.
-std::string Renamed(const std::string& path, const char* ending) {
-    return path == "-" ? std::string("recording") + ending
-                       : Quoted(std::filesystem::path(path).replace_extension(ending).string());
+/// A name for the recording that is made of the file: with another ending, and never the file's own, which the command
+/// would overwrite while it reads.
+std::string NameOfRecording(const std::string& path) {
+    if (path == "-") {
+        return "recording.log";
+    }
+    const std::string name = std::filesystem::path(path).replace_extension(".log").string();
+    return Quoted(name != path ? name : std::filesystem::path(path).replace_extension(".candump.log").string());
 }
 
 bool HasFrame(std::string_view head) {
@@ -125,16 +131,16 @@ std::optional<std::string> OtherKindOfFile(std::string_view head, const std::str
         {"MDF     "sv, "an MDF recording", "can_logconvert %1 %2"},
         {"UnFinMF "sv, "an MDF recording", "can_logconvert %1 %2"},
         {"SQLite format 3\0"sv, "an SQLite database", "can_logconvert %1 %2"},
-        {"BZh"sv, "packed with bzip2", "bzip2 -dc %1 > %2"},
+        {"BZh"sv, "a file packed with bzip2", "bzip2 -dc %1 > %2"},
         {"\xFD"
          "7zXZ\0"sv,
-         "packed with xz", "xz -dc %1 > %2"},
-        {"\x28\xB5\x2F\xFD"sv, "packed with zstd", "zstd -dc %1 > %2"},
+         "a file packed with xz", "xz -dc %1 > %2"},
+        {"\x28\xB5\x2F\xFD"sv, "a file packed with zstd", "zstd -dc %1 > %2"},
         {"PK\x03\x04"sv, "a zip archive", "unzip -p %1 > %2"},
         {"\xFF\xFE"sv, "a text in UTF-16", "iconv -f UTF-16 -t UTF-8 %1 > %2"},
         {"\xFE\xFF"sv, "a text in UTF-16", "iconv -f UTF-16 -t UTF-8 %1 > %2"},
 #ifndef KRM_HAVE_ZLIB
-        {kGzip, "packed with gzip", "gzip -dc %1 > %2"},
+        {kGzip, "a file packed with gzip", "gzip -dc %1 > %2"},
 #endif
     };
     const auto looksLike = [&](const std::string& what, const std::string& command) {
@@ -145,7 +151,7 @@ std::optional<std::string> OtherKindOfFile(std::string_view head, const std::str
                 text += path == "-" ? "FILE" : Quoted(path);
                 ++i;
             } else if (isPlace && command[i + 1] == '2') {
-                text += Renamed(path, ".log");
+                text += NameOfRecording(path);
                 ++i;
             } else {
                 text += command[i];
@@ -180,6 +186,12 @@ std::optional<std::string> OtherKindOfFile(std::string_view head, const std::str
     }
     if (begins("timestamp,arbitration_id,")) {
         return looksLike("a CSV recording", "can_logconvert %1 %2");
+    }
+    if (begins(OperationLogFile::kFirstLine)) {
+        return "is an operation log that this program wrote, not a recording";
+    }
+    if (begins(ValuesFile::kColumns)) {
+        return "is a file of values that this program wrote, not a recording";
     }
     if (begins("Time Stamp,ID,")) {
         return "looks like a CSV recording; a recording is text, as candump -l writes it";
@@ -319,7 +331,7 @@ void RecordingFile::Open() {
         there += count;
     }
     head.resize(there);
-    m_isEmpty = head.empty();
+    m_isEmpty = head.empty() && m_atEnd;
     if (const std::optional<std::string> kind = OtherKindOfFile(head, m_path)) {
         throw FileError(m_name + ": " + *kind);
     }
@@ -346,6 +358,7 @@ std::size_t RecordingFile::ReadFile(char* buffer, std::size_t size) {
         throw FileError(m_name + ": cannot be read: " + ReasonOf(errno));
     }
     m_bytesRead += static_cast<std::size_t>(count);
+    m_atEnd = count == 0;
     return static_cast<std::size_t>(count);
 }
 

@@ -66,6 +66,7 @@ public:
     /// Bytes of the file that were read, and that there are; without a size where it is a pipe.
     std::uint64_t BytesRead() const { return m_bytesRead; }
     std::optional<std::uint64_t> Size() const { return m_size; }
+    /// Whether the file has nothing in it.
     bool IsEmpty() const { return m_isEmpty; }
 
     /// Called before a read that may wait for another program.
@@ -84,6 +85,7 @@ private:
     int m_file = -1;
     bool m_isRegular = false;
     bool m_isEmpty = false;
+    bool m_atEnd = false;
     std::optional<std::uint64_t> m_size;
     std::uint64_t m_bytesRead = 0;
     std::string m_head;  ///< what was read to recognise the file, and is to be read again

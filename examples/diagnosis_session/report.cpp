@@ -4,7 +4,7 @@
 
 #include "engine.h"
 #include "hex.h"
-#include "operation_log_file.h"
+#include "krm/framework/log_sinks.h"
 
 namespace diagnosis_session {
 namespace {
@@ -55,7 +55,7 @@ Report::Report(TextStream& out, std::size_t nameWidth)
     : m_out(out), m_nameWidth(std::clamp<std::size_t>(nameWidth, 8, kLongestName)) {}
 
 void Report::Begin(const RecordingInfo& recording, bool isKnown) {
-    m_out << "Recording  " << OnOneLine(recording.file) << '\n';
+    m_out << "Recording  " << OnOneLine(recording.file) << (recording.isEmpty ? " is empty\n" : "\n");
     if (isKnown) {
         Head(recording);
         m_headWritten = true;
@@ -68,7 +68,8 @@ void Report::Head(const RecordingInfo& recording) {
     if (totals.first != kNoTime) {
         m_out << " in " << Seconds(totals.last - totals.first, 1) << " s";
         if (HasDate(totals.first)) {
-            m_out << " from " << TimeText(totals.first).substr(0, 19) << " UTC";
+            const std::string begin = krm::TimeStamp(TimePointOf(totals.first));  // 2024-11-07T17:20:00.048Z
+            m_out << " from " << begin.substr(0, 10) << ' ' << begin.substr(11, 8) << " UTC";
         }
     }
     m_out << '\n';

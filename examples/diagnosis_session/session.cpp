@@ -114,7 +114,6 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
 
     // Now and then: what is found out so far becomes visible, and how far it is.
     auto shown = std::chrono::steady_clock::now();
-    const char* doing = "surveying";
     unsigned untilNext = 0;
     const auto goOn = [&](std::uint64_t exchanges) {
         if (surroundings.interrupt != nullptr && *surroundings.interrupt != 0) {
@@ -127,22 +126,34 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
                 shown = now;
                 text.Flush();
                 if (surroundings.hasTerminal) {
-                    progress.Show(doing, file.BytesRead(), file.Size(), exchanges);
+                    progress.Show(file.BytesRead(), file.Size(), exchanges);
                 }
             }
         }
         return true;
     };
 
-    // A file is read twice: first for what stands at the head of the report, then for what is said in it.
+    // A file is read twice: first for what stands at the head of the report, then for what is said in it. One that can't be
+    // read to its end, such as a packed file that a logger without power left, is decoded as far as it goes.
     std::optional<ExchangeReader> reader;
+    std::string breakOff;
+    const auto read = [&](char* buffer, std::size_t size) -> std::size_t {
+        try {
+            return breakOff.empty() ? file.Read(buffer, size) : 0;
+        } catch (const FileError& error) {
+            breakOff = error.what();
+            return 0;
+        }
+    };
     const auto open = [&](Complain to) {
-        reader.emplace([&](char* buffer, std::size_t size) { return file.Read(buffer, size); }, std::move(to));
+        breakOff.clear();
+        reader.emplace(read, std::move(to));
     };
     DiagnosisEngine engine(
         table, [&] { return reader->Next(); }, [&] { return reader->Totals(); }, complain);
     bool interrupted = false;
     if (file.CanRewind()) {
+        progress.Begin("surveying");
         open([](const Place&, const std::string&) {});
         engine.Survey(
             [&]() -> std::optional<Exchange> {
@@ -150,9 +161,15 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
                 return interrupted ? std::nullopt : reader->Next();
             },
             [&] { return reader->Totals(); });
+        if (!breakOff.empty() && reader->Totals().frames == 0) {
+            throw FileError(breakOff);
+        }
+        if (log) {
+            log->SetTime(reader->Totals().first);
+        }
         file.Rewind();
     }
-    doing = "decoding";
+    progress.Begin("decoding");
     open(complain);
     file.BeforeWaiting([&] { text.Flush(); });
 
@@ -163,7 +180,8 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
         report = std::make_unique<Report>(text, LongestName(table));
     }
     Application::Settings settings;
-    settings.recordingName = file.Name() + (file.IsEmpty() ? " is empty" : "");
+    settings.recording.file = file.Name();
+    settings.recording.isEmpty = file.IsEmpty();
     settings.units = options.units;
     settings.log = log ? &*log : nullptr;
     settings.outputs = {report.get()};
@@ -188,6 +206,9 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
     complaints.TellRest();
     if (summary.interrupted) {
         err << "diagnosis_session: interrupted; what was decoded until then is there\n";
+    }
+    if (!breakOff.empty()) {
+        throw FileError(breakOff + "; what was decoded until then is there");
     }
     return complaints.Count() == 0 && !summary.interrupted ? kGood : kBadInput;
 }

@@ -26,6 +26,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdio>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <ostream>
@@ -33,6 +34,7 @@
 #include <string_view>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include "krm/core/types.h"
 #include "krm/framework/commands.h"
@@ -131,11 +133,11 @@ inline std::string TimeStamp(std::chrono::system_clock::time_point time) {
 /// it meanwhile.
 class HeadedLog {
 public:
-    using Clock = std::chrono::system_clock::time_point (*)();
+    using Clock = std::function<std::chrono::system_clock::time_point()>;
 
-    /// Takes the time from `now`.
+    /// Takes the time from `now`, such as that of the session that the messages belong to.
     explicit HeadedLog(std::ostream& stream, Clock now = &std::chrono::system_clock::now)
-        : m_stream(stream), m_now(now) {}
+        : m_stream(stream), m_now(std::move(now)) {}
     ~HeadedLog() {
         for (auto& [id, thread] : m_threads) {
             WriteHeld(thread, "");

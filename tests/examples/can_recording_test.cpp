@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <variant>
+
 namespace {
 
 using diagnosis_session::BadLine;
@@ -14,6 +20,10 @@ CanFrame FrameOf(const std::string& text) {
     return std::holds_alternative<CanFrame>(parsed) ? std::get<CanFrame>(parsed) : CanFrame{};
 }
 
+Bytes DataOf(const CanFrame& frame) {
+    return Bytes(frame.data.begin(), frame.data.end());
+}
+
 std::string FaultOf(const std::string& text) {
     const auto parsed = ParseCandumpLine(text, 7);
     return std::holds_alternative<BadLine>(parsed) ? std::get<BadLine>(parsed).what : "no fault";
@@ -23,14 +33,34 @@ TEST(CanRecording, ReadsAFrame) {
     const CanFrame frame = FrameOf("(1700000000.004000) can0 7E8#06410100076500");
     EXPECT_EQ(frame.line, 7U);
     EXPECT_EQ(frame.id, 0x7E8U);
-    EXPECT_EQ(frame.data, (Bytes{0x06, 0x41, 0x01, 0x00, 0x07, 0x65, 0x00}));
+    EXPECT_EQ(DataOf(frame), (Bytes{0x06, 0x41, 0x01, 0x00, 0x07, 0x65, 0x00}));
 }
 
 TEST(CanRecording, ReadsExtendedIdsLowerCaseDirectionsAndCarriageReturns) {
     EXPECT_EQ(FrameOf("(1.0) vcan1 18daf110#0a").id, 0x18DAF110U);
-    EXPECT_EQ(FrameOf("(1.0) vcan1 18daf110#0a").data, Bytes{0x0A});
-    EXPECT_EQ(FrameOf("  (1.0)\tcan0  7DF#0101 T\r").data, (Bytes{0x01, 0x01}));
+    EXPECT_EQ(DataOf(FrameOf("(1.0) vcan1 18daf110#0a")), Bytes{0x0A});
+    EXPECT_EQ(DataOf(FrameOf("  (1.0)\tcan0  7DF#0101 T\r")), (Bytes{0x01, 0x01}));
     EXPECT_EQ(FrameOf("(1.0) can0 7DF#").id, 0x7DFU);
+}
+
+TEST(CanRecording, ATimeMayHaveMoreDigitsThanANumberHolds) {
+    EXPECT_EQ(FrameOf("(1731000000.21251000000155000) can0 7DF#0103").time, 1'731'000'000'212'510);
+    EXPECT_EQ(FrameOf("(999999999999.999999) can0 7DF#0103").time, 999'999'999'999'999'999);
+    for (const char* time : {"99999999999999999999.000000", "9999999999999999999", "99999999999999999999999"}) {
+        EXPECT_EQ(FaultOf("(" + std::string(time) + ") can0 7DF#0103"),
+                  "the time stamp is not a decimal number in parentheses");
+    }
+}
+
+TEST(CanRecording, TimesBeyondTheSystemsClockAreItsLast) {
+    using diagnosis_session::TimePointOf;
+    using TimePoint = std::chrono::system_clock::time_point;
+    using std::chrono::microseconds;
+    EXPECT_EQ(TimePointOf(1'731'000'000'048'500), TimePoint(microseconds(1'731'000'000'048'500)));
+    EXPECT_EQ(TimePointOf(diagnosis_session::kNoTime), TimePoint());
+    const auto last = std::chrono::floor<microseconds>(TimePoint::max());
+    EXPECT_EQ(std::chrono::floor<microseconds>(TimePointOf(std::numeric_limits<std::int64_t>::max())), last);
+    EXPECT_LT(TimePointOf(std::numeric_limits<std::int64_t>::min() + 1), TimePoint());
 }
 
 TEST(CanRecording, TellsWhatIsWrongWithALine) {

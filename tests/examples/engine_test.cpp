@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "examples/diagnosis_session/received.h"
+#include "tests/support/log_capture.h"
 
 namespace {
 
@@ -112,6 +113,63 @@ TEST_F(Engine, AnItemCarriesItsWholeConversion) {
     EXPECT_STREQ(trim.m_cConversionTbl.m_cDataMin.m_strDataPhys.GetText(), "-10.00000");
     EXPECT_STREQ(trim.m_cDispDataList[0].m_strDataPhys.GetText(), "-0.50000");
     EXPECT_STREQ(trim.m_cDispDataList[0].m_strData.GetText(), "-0.5");
+}
+
+/// All of a record: its log lines, and the texts that the log leaves out.
+std::vector<std::string> AllOf(const CKRMList<CKRMCCommandFFDData>& items) {
+    std::vector<std::string> all;
+    for (CKRMCCommandFFDData item : items) {
+        const std::vector<std::string> lines = krm::test::RecordLinesOf(item);
+        all.insert(all.end(), lines.begin(), lines.end());
+        all.emplace_back(item.m_strFFDText.GetText());
+    }
+    return all;
+}
+
+TEST_F(Engine, AnAnswerFilledAgainIsLikeANewOne) {
+    const auto faults = [](const diagnosis_session::Place&, const std::string&) {};
+    // Other values, other items, fewer of them, an item left out, a refusal, nothing known.
+    const std::vector<Exchange> recording = ReadExchanges(
+        "(1.0) can0 7DF#02010F\n"
+        "(1.0) can0 7E8#05410F0645FF\n"
+        "(1.0) can0 7DF#02010F\n"
+        "(1.0) can0 7E8#05410F0A9003\n"
+        "(1.0) can0 7DF#02010D\n"
+        "(1.0) can0 7E8#03410D22\n"
+        "(1.0) can0 7DF#02010F\n"
+        "(1.0) can0 7E8#04410F0A90\n"
+        "(1.0) can0 7DF#02010F\n"
+        "(1.0) can0 7E8#05410F064501\n"
+        "(1.0) can0 7DF#03010D0F\n"
+        "(1.0) can0 7E8#07410D210F0A9003\n"
+        "(1.0) can0 7DF#02010F\n"
+        "(1.0) can0 7E8#037F0111\n"
+        "(1.0) can0 7DF#02010F\n"
+        "(1.0) can0 7E8#05410F0645FE\n"
+        "(1.0) can0 7DF#020133\n"
+        "(1.0) can0 7E8#03413301\n",
+        faults);
+    const auto engine = EngineOn(recording, faults);
+    const auto other = EngineOn(recording, faults);
+    CKRMCGetCurrentDataValueCmdAdaptDataSnd request;
+    request.m_ulEcuId = 0x7E8;
+    CKRMCGetCurrentDataValueCmdAdaptDataRcv again;
+    std::vector<int> counts;
+    for (std::size_t i = 0; i < recording.size(); ++i) {
+        GoOn(*engine);
+        engine->Answer(request, again);
+        GoOn(*other);
+        CKRMCGetCurrentDataValueCmdAdaptDataRcv fresh;
+        other->Answer(request, fresh);
+        EXPECT_EQ(AllOf(again.Data), AllOf(fresh.Data)) << i;
+        EXPECT_EQ(again.m_bNotSupport, fresh.m_bNotSupport) << i;
+        counts.push_back(fresh.Data.GetCount());
+    }
+    EXPECT_EQ(counts, (std::vector<int>{3, 3, 1, 3, 3, 4, 0, 3, 0}));
+    // Nobody answers any more.
+    engine->Answer(request, again);
+    EXPECT_EQ(again.Data.GetCount(), 0);
+    EXPECT_FALSE(again.m_bNotSupport);
 }
 
 TEST_F(Engine, TroubleCodesOfAllSystems) {

@@ -10,6 +10,7 @@ namespace {
 using diagnosis_session::Bytes;
 using diagnosis_session::BytesOfHex;
 using diagnosis_session::CanFrame;
+using diagnosis_session::FrameData;
 using diagnosis_session::HexOf;
 using diagnosis_session::IsoTpAssembler;
 
@@ -17,7 +18,7 @@ class IsoTp : public ::testing::Test {
 protected:
     /// Adds a frame on the next line; a message that it completes goes to `m_messages` as "ID line bytes".
     void Add(const std::string& hex, std::uint32_t id = 0x7E8) {
-        if (const auto message = m_assembler.Add(CanFrame{++m_line, id, BytesOfHex(hex).value()})) {
+        if (const auto message = m_assembler.Add(CanFrame{++m_line, id, FrameData(BytesOfHex(hex).value())})) {
             m_messages.push_back(diagnosis_session::HexOfId(message->id) + ' ' + std::to_string(message->line) + ' ' +
                                  HexOf(message->bytes));
         }

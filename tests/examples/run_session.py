@@ -11,6 +11,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import time
 
 program, data, has_zlib = sys.argv[1], sys.argv[2], sys.argv[3] == "1"
 recording, items = os.path.join(data, "session.log"), os.path.join(data, "session.items.json")
@@ -59,6 +60,10 @@ with tempfile.TemporaryDirectory() as folder:
         check("joined gzip members", joined.stdout.split(b"\n", 1)[1] == body, joined)
         cut = run(path("c.log.gz", gzip.compress(text)[:-20]), items)
         check("gzip that ends too early", cut.returncode == 2 and b"gzip data ends too early" in cut.stderr, cut)
+        check("it is decoded as far as it goes", b"Vehicle identification number" in cut.stdout and
+              b"exchanges, " in cut.stdout, cut)
+        nothing = run(path("n.log.gz", gzip.compress(text)[:12]), items)
+        check("nothing at all of it", nothing.returncode == 2 and nothing.stdout == b"", nothing)
     windows = run(path("w.log", b"\xef\xbb\xbf" + text.replace(b"\n", b"\r\n")), items)
     check("CRLF and byte order mark", windows.stdout.split(b"\n", 1)[1] == body, windows)
 
@@ -98,6 +103,14 @@ with tempfile.TemporaryDirectory() as folder:
     waiting.send_signal(signal.SIGINT)
     rest, told = waiting.communicate(timeout=120)
     check("results come while it waits", first.startswith(b"Recording"), first)
+    silent = subprocess.Popen([program, "-", items], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE)
+    time.sleep(0.5)
+    silent.send_signal(signal.SIGINT)
+    silent.wait(120)  # before its input is closed
+    nothing, silently = silent.communicate(timeout=120)
+    check("Ctrl-C before anything came", silent.returncode == 1 and b"interrupted" in silently and
+          b"is empty" not in nothing, (silent.returncode, nothing, silently))
     check("Ctrl-C ends cleanly and says so", waiting.returncode == 1 and b"interrupted" in told and
           b"exchanges" in rest, (waiting.returncode, rest, told))
 

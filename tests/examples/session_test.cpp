@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "examples/diagnosis_session/recording_file.h"
 #include "tests/support/session_run.h"
 
 namespace {
@@ -94,7 +95,8 @@ TEST_F(Session, TheOwnRecordingIsDecodedWhole) {
     std::size_t lines = 0;
     std::istringstream logLines(log);
     for (std::string line; std::getline(logLines, line);) {
-        lines += line.starts_with('#') ? 0U : 1U;
+        const bool isHeading = line.starts_with('#') || line.find(" == ") != std::string::npos;
+        lines += isHeading ? 0U : 1U;
     }
     EXPECT_THAT(run.out, EndsWith("\n37 exchanges, 55 values, no faults; written: values " + m_folder.Path("v.csv") +
                                   " (55 rows), operation log " + m_folder.Path("op.log") + " (" +
@@ -140,6 +142,8 @@ TEST_F(Session, BadArguments) {
         {{"-x"}, "The following argument was not expected: -x"},
         {{"--log", "x"}, "The following argument was not expected: --log"},
         {{"--operation-log"}, "--operation-log: 1 required FILE missing"},
+        {{"--operation-log", "-"}, "--operation-log: needs a file; standard output has the report"},
+        {{"--values=-"}, "--values: needs a file; standard output has the report"},
         {{"--values", ""}, "--values: needs a file"},
         {{"--units=furlongs"}, "--units: furlongs not in {metric,imperial}"},
         {{"a", "b", "c"}, "The following argument was not expected: c"},
@@ -218,10 +222,19 @@ TEST_F(Session, TheLogHasAHeadingBeforeEachMessage) {
     ASSERT_EQ(RunSession({recording, m_folder.Path("i.json"), "--operation-log", m_folder.Path("op.log")}).status, 0);
     const std::string log = m_folder.Read("op.log");
     EXPECT_THAT(log, StartsWith("# Operation log of diagnosis_session\n"
-                                "# - GetGroupEcuList request\n"
-                                "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandType=1\n"));
-    EXPECT_THAT(log, HasSubstr("# 2024-11-07 17:20:00.070000 GetDTC request, ECU 7E8\n"));
-    EXPECT_THAT(log, HasSubstr("# 2024-11-07 17:20:00.070000 GetDTC answer, ECU 7E8\n"));
+                                "2024-11-07T17:20:00.048Z 1 == GetGroupEcuList request (type 1, ID 12)\n"
+                                "2024-11-07T17:20:00.048Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] "
+                                "m_dwCommandType=1\n"));
+    EXPECT_THAT(log, HasSubstr("\n2024-11-07T17:20:00.070Z 1 == GetDTC request (type 1, ID 2)\n"
+                               "2024-11-07T17:20:00.070Z 1 [CKRMCBaseCmdAdaptData::ErrWriteOperationLog] "
+                               "m_dwCommandType=1\n"));
+    EXPECT_THAT(log, HasSubstr("\n2024-11-07T17:20:00.070Z 1 == GetDTC answer (type 1, ID 2)\n"));
+
+    // A recording without times.
+    const std::string timeless = m_folder.Write("t.log", "can0 7DF [3] 02 01 0D\ncan0 7E8 [4] 03 41 0D 01\n");
+    ASSERT_EQ(RunSession({timeless, m_folder.Path("i.json"), "--operation-log", m_folder.Path("op.log")}).status, 0);
+    EXPECT_THAT(m_folder.Read("op.log"), HasSubstr("\n1970-01-01T00:00:00.000Z 1 == GetDataMonitorValue answer "
+                                                   "(type 1, ID 21)\n"));
 }
 
 TEST_F(Session, WithoutALogNothingIsLogged) {
@@ -249,6 +262,10 @@ TEST_F(Session, OtherKindsOfFileAreNamedWithTheCommandThatConvertsThem) {
          "ELF\0\0"s,
          "looks like a binary file; a recording is text, as candump -l writes it"},
         {"drive.json", "{}", "looks like JSON, as item tables are; the recording comes first, then the item table"},
+        {"drive.csv", "exchange,request,item,raw,value,unit,time,ecu,name,text\n",
+         "is a file of values that this program wrote, not a recording\n"},
+        {"drive.op", "# Operation log of diagnosis_session\n",
+         "is an operation log that this program wrote, not a recording\n"},
     };
     for (const auto& [name, content, what] : cases) {
         const std::string path = m_folder.Write(name, content);
@@ -256,6 +273,18 @@ TEST_F(Session, OtherKindsOfFileAreNamedWithTheCommandThatConvertsThem) {
         EXPECT_EQ(run.status, 2) << name;
         EXPECT_THAT(run.err, StartsWith("diagnosis_session: " + path + ": " + what));
     }
+}
+
+TEST_F(Session, NoCommandToConvertAFileWritesIntoThatFile) {
+    EXPECT_EQ(diagnosis_session::OtherKindOfFile("BZh9", "drive.log"),
+              "looks like a file packed with bzip2; make a candump recording of it with: bzip2 -dc drive.log > "
+              "drive.candump.log");
+    EXPECT_EQ(diagnosis_session::OtherKindOfFile("BZh9", "my drive.bz2"),
+              "looks like a file packed with bzip2; make a candump recording of it with: bzip2 -dc 'my drive.bz2' > "
+              "'my drive.log'");
+    EXPECT_EQ(
+        diagnosis_session::OtherKindOfFile("BZh9", "-"),
+        "looks like a file packed with bzip2; make a candump recording of it with: bzip2 -dc FILE > recording.log");
 }
 
 TEST_F(Session, ComplaintsAreCappedWithACountOfTheRest) {
@@ -489,6 +518,8 @@ TEST_F(Session, AnEmptyRecordingHasNothingToSay) {
     EXPECT_EQ(run.err, "");
     EXPECT_THAT(run.out, StartsWith("Recording  " + m_folder.Path("r.log") + " is empty\n           0 frames\n"));
     EXPECT_THAT(run.out, HasSubstr("\n0 exchanges, 0 values, "));
+    const SessionResult json = RunSession({"--json", m_folder.Path("r.log"), m_folder.Path("i.json")});
+    EXPECT_THAT(json.out, HasSubstr("r.log\", \"frames\": 0, "));
 }
 
 TEST_F(Session, ATableThatIsNoTableLeavesTheRestDecoded) {

@@ -16,8 +16,9 @@ if [ -n "$quick" ] && [ -n "$write" ]; then
     echo "bench: what --quick measures is not worth writing down" >&2
     exit 2
 fi
-need "${build_tools[@]}" libbenchmark-dev libfmt-dev libprotobuf-dev protobuf-compiler libpugixml-dev
-build bench
+need "${build_tools[@]}" libbenchmark-dev libfmt-dev libprotobuf-dev protobuf-compiler libpugixml-dev nlohmann-json3-dev \
+    libcli11-dev zlib1g-dev
+build bench krm_bench
 # Briefly once, to see that all of it works; else as often as a median needs.
 if [ -n "$quick" ]; then
     options=(--benchmark_min_time=0.01 "${options[@]}")
