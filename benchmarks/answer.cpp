@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "tests/messages/diag/trouble_codes_fields.h"
+#include "krm/fields/diag/trouble_codes.h"
 
 namespace krm::bench {
 namespace {
@@ -304,7 +304,7 @@ void AddNeeded(T& it, std::size_t& bytes) {
     if constexpr (std::is_same_v<T, CKRMString>) {
         static const std::size_t inlineRoom = std::string().capacity();
         bytes += it.GetLength() > inlineRoom ? it.GetLength() + 1 : 0;
-    } else if constexpr (krm::test::IsList<T>) {
+    } else if constexpr (krm::kIsList<T>) {
         struct Node {
             std::remove_cvref_t<decltype(it.GetAt(0))> element;
             void* next;
@@ -315,7 +315,7 @@ void AddNeeded(T& it, std::size_t& bytes) {
             AddNeeded(element, bytes);
         }
     } else if constexpr (std::is_class_v<T>) {
-        krm::test::ForEachField(it, [&](auto& field) { AddNeeded(field, bytes); });
+        krm::ForEachField(it, [&](std::string_view, auto& field) { AddNeeded(field, bytes); });
     }
 }
 

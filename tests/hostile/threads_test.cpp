@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "krm/core/binary.h"
+#include "krm/fields/auxiliary/stored_data.h"
+#include "krm/fields/auxiliary/unit_conversion.h"
+#include "krm/fields/auxiliary/words_table.h"
+#include "krm/fields/diag/translation.h"
+#include "krm/fields/diag/trouble_codes.h"
 #include "krm/tree/element.h"
 #include "krm/tree/element_group.h"
-#include "tests/messages/auxiliary/stored_data_fields.h"
-#include "tests/messages/auxiliary/unit_conversion_fields.h"
-#include "tests/messages/auxiliary/words_table_fields.h"
-#include "tests/messages/diag/translation_fields.h"
-#include "tests/messages/diag/trouble_codes_fields.h"
 #include "tests/support/converters.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_sink.h"

@@ -14,10 +14,10 @@
 #include <typeinfo>
 #include <vector>
 
+#include "krm/fields/all_fields.h"
 #include "krm/framework/commands.h"
 #include "krm/framework/message.h"
 #include "krm/messages/all_messages.h"
-#include "tests/messages/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/any_class.h"
 

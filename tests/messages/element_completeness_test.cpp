@@ -12,8 +12,8 @@
 #include <type_traits>
 
 #include "krm/core/list.h"
+#include "krm/fields/all_fields.h"
 #include "krm/framework/record.h"
-#include "tests/messages/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/any_class.h"
 

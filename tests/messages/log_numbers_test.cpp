@@ -12,8 +12,8 @@
 #include <string_view>
 #include <type_traits>
 
+#include "krm/fields/all_fields.h"
 #include "krm/framework/record.h"
-#include "tests/messages/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_capture.h"
@@ -80,8 +80,8 @@ void Collect(T& it, Shown& shown) {
         shown.texts.insert(text.GetText());
     } else if constexpr (std::is_same_v<T, CKRMString>) {
         shown.texts.insert(it.GetText());
-    } else if constexpr (std::is_array_v<T> || IsList<T>) {
-        if constexpr (IsList<T>) {
+    } else if constexpr (std::is_array_v<T> || kIsList<T>) {
+        if constexpr (kIsList<T>) {
             shown.signedNumbers.insert(std::to_string(it.GetCount()));
         }
         for (auto& element : it) {
@@ -92,7 +92,7 @@ void Collect(T& it, Shown& shown) {
             shown.signedNumbers.insert(std::to_string(it.GetCommandType()));
             shown.signedNumbers.insert(std::to_string(it.GetCommandID()));
         }
-        ForEachField(it, [&](auto& field) { Collect(field, shown); });
+        ForEachField(it, [&](std::string_view, auto& field) { Collect(field, shown); });
     }
 }
 

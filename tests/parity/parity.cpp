@@ -6,7 +6,7 @@
 #include <string>
 
 #include "krm/adaptation_data.h"
-#include "tests/messages/all_fields.h"
+#include "krm/fields/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_sink.h"

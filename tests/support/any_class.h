@@ -9,9 +9,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <tuple>
 #include <type_traits>
-#include <utility>
 #include <vector>
 
 #include "krm/messages/auxiliary/stored_data.h"
@@ -69,6 +67,7 @@ struct AnyClass {
     void (*checkOtherStarts)(void* fresh);
     void (*giveWhatClearKeeps)(void* fresh, const void* filled);
     std::vector<FieldPlace> (*fields)(void* it);  ///< its own; none for a list
+    std::size_t (*firstPlace)();                  ///< of a message: where its first field belongs; else null
     std::size_t size;
     std::size_t alignment;
     bool hasValues;  ///< false for messages that consist of type and ID alone
@@ -78,13 +77,27 @@ template <class T>
 std::vector<FieldPlace> PlacesOfFields(T& it) {
     std::vector<FieldPlace> places;
     [[maybe_unused]] const auto* const start = reinterpret_cast<const char*>(&it);
-    std::apply(
-        [&](auto&... field) {
-            places = {{static_cast<std::size_t>(reinterpret_cast<const char*>(&field) - start), sizeof field,
-                       alignof(std::remove_reference_t<decltype(field)>)}...};
-        },
-        FieldsOf(it));
+    Fields<T>::ForEach([&](auto listed) {
+        auto& field = listed.In(it);
+        places.push_back({static_cast<std::size_t>(reinterpret_cast<const char*>(&field) - start), sizeof field,
+                          alignof(std::remove_reference_t<decltype(field)>)});
+    });
     return places;
+}
+
+/// Where the compiler puts the first of these fields behind `Base`, which may be in the padding at the base's end.
+template <class Base, auto first, auto... others>
+std::size_t PlaceBehind(const FieldList<first, others...>*) {
+    struct WithThisFirst : Base {
+        typename Field<first>::Type field;
+    };
+    const WithThisFirst probe{};
+    return static_cast<std::size_t>(reinterpret_cast<const char*>(&probe.field) -
+                                    reinterpret_cast<const char*>(&probe));
+}
+template <class Base>
+std::size_t PlaceBehind(const FieldList<>*) {
+    return sizeof(Base);
 }
 
 template <class T>
@@ -103,15 +116,19 @@ constexpr AnyClass AnyClassOf() {
     any.size = sizeof(T);
     any.alignment = alignof(T);
     any.hasValues = true;
-    if constexpr (!IsList<T>) {
+    if constexpr (!kIsList<T>) {
         any.clear = [](void* it) { static_cast<T*>(it)->Clear(); };
         any.checkOtherStarts = [](void* fresh) { CheckOtherStarts(*static_cast<T*>(fresh)); };
         any.giveWhatClearKeeps = [](void* fresh, const void* filled) {
             GiveWhatClearKeeps(*static_cast<T*>(fresh), *static_cast<const T*>(filled));
         };
         any.fields = [](void* it) { return PlacesOfFields(*static_cast<T*>(it)); };
-        any.hasValues = std::tuple_size_v<decltype(FieldsOf(std::declval<T&>()))> != 0 || HasEcuId<T> ||
-                        HasNotSupport<T> || HasVdcSndValue<T>;
+        if constexpr (HasFieldsOfBase<T>) {
+            any.firstPlace = []() -> std::size_t {
+                return PlaceBehind<typename T::DirectionBase>(static_cast<const Fields<T>*>(nullptr));
+            };
+        }
+        any.hasValues = kFieldCount<T> != 0;
     }
     return any;
 }
@@ -127,8 +144,9 @@ inline void ExpectFieldsFillTheObject(const AnyClass& any, std::size_t base) {
     std::size_t end = base;
     bool first = true;
     for (const FieldPlace& field : any.fields(it.get())) {
-        if (first) {
-            // It may lie in the padding at the base's end.
+        if (first && any.firstPlace != nullptr) {
+            EXPECT_EQ(field.offset, any.firstPlace()) << "there is a field before the first one listed";
+        } else if (first) {
             EXPECT_LE(field.offset, AlignUp(end, field.alignment)) << "there is a field before the first one listed";
         } else {
             EXPECT_EQ(field.offset, AlignUp(end, field.alignment)) << "there is a field between two listed ones";

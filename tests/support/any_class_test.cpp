@@ -4,18 +4,17 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <memory>
-#include <tuple>
+#include <string_view>
 
-// In the global namespace, as the library's classes are, so that FieldsOf finds them.
 struct SoundExample {
     void Clear() { *this = SoundExample(); }
     int number = 0;
     CKRMString text;
 };
-inline auto FieldsOf(SoundExample& it) {
-    return std::tie(it.number, it.text);
-}
+template <>
+struct krm::Fields<SoundExample> : krm::FieldList<&SoundExample::number, &SoundExample::text> {};
 
 struct ExampleWithUnlistedField {
     void Clear() { *this = ExampleWithUnlistedField(); }
@@ -23,42 +22,58 @@ struct ExampleWithUnlistedField {
     int forgotten = 0;
     int last = 0;
 };
-inline auto FieldsOf(ExampleWithUnlistedField& it) {
-    return std::tie(it.number, it.last);
-}
+template <>
+struct krm::Fields<ExampleWithUnlistedField>
+    : krm::FieldList<&ExampleWithUnlistedField::number, &ExampleWithUnlistedField::last> {};
 
 struct ExampleWithUnlistedEnd {
     void Clear() { *this = ExampleWithUnlistedEnd(); }
     int number = 0;
     int forgotten = 0;
 };
-inline auto FieldsOf(ExampleWithUnlistedEnd& it) {
-    return std::tie(it.number);
-}
+template <>
+struct krm::Fields<ExampleWithUnlistedEnd> : krm::FieldList<&ExampleWithUnlistedEnd::number> {};
+
+// The field that isn't listed fits into the padding at the base's end.
+struct ExampleWithUnlistedFirst
+    : krm::MessageOf<ExampleWithUnlistedFirst, CKRMCBaseCmdAdaptDataRcv, krm::CommandName("Example", 900)> {
+    bool forgotten = false;
+    bool listed = false;
+};
+template <>
+struct krm::Fields<ExampleWithUnlistedFirst> : krm::FieldList<&ExampleWithUnlistedFirst::listed> {};
 
 struct ExampleThatStartsAtOne {
     void Clear() { *this = ExampleThatStartsAtOne(); }
     int number = 1;
 };
-inline auto FieldsOf(ExampleThatStartsAtOne& it) {
-    return std::tie(it.number);
-}
+template <>
+struct krm::Fields<ExampleThatStartsAtOne> : krm::FieldList<&ExampleThatStartsAtOne::number> {};
 
 struct ExampleWithIdleClear {
     void Clear() {}
     int number = 0;
 };
-inline auto FieldsOf(ExampleWithIdleClear& it) {
-    return std::tie(it.number);
-}
+template <>
+struct krm::Fields<ExampleWithIdleClear> : krm::FieldList<&ExampleWithIdleClear::number> {};
 
 struct ExampleThatSharesItsList {
     void Clear() { list->RemoveAll(); }
     std::shared_ptr<CKRMList<int>> list = std::make_shared<CKRMList<int>>();
 };
-inline auto FieldsOf(ExampleThatSharesItsList& it) {
-    return std::tie(*it.list);
-}
+// What it shares is no member of its own.
+struct SharedList {
+    static constexpr std::string_view name = "list";
+    static auto& In(ExampleThatSharesItsList& it) { return *it.list; }
+};
+template <>
+struct krm::Fields<ExampleThatSharesItsList> {
+    static constexpr std::size_t kCount = 1;
+    template <class Visitor>
+    static constexpr void ForEach(Visitor&& visitor) {
+        visitor(SharedList());
+    }
+};
 
 namespace {
 
@@ -78,6 +93,9 @@ TEST(AnyClass, FindsAFieldThatIsNotListed) {
                             "between two listed ones");
     EXPECT_NONFATAL_FAILURE(krm::test::ExpectFieldsFillTheObject(AnyClassOf<ExampleWithUnlistedEnd>(), 0),
                             "after the last one listed");
+    EXPECT_NONFATAL_FAILURE(
+        krm::test::ExpectFieldsFillTheObject(AnyClassOf<ExampleWithUnlistedFirst>(), sizeof(CKRMCBaseCmdAdaptDataRcv)),
+        "before the first one listed");
 }
 
 TEST(AnyClass, FindsAWrongStart) {

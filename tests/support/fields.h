@@ -1,64 +1,17 @@
-// What tests know of every record and message: its fields, in order. From that one list per class they fill an object,
-// compare two, and check defaults.
-//
-// Each class has a function, beside the tests of its area, in the global namespace so that lookup by argument finds it:
-//
-//     inline auto FieldsOf(CKRMCCommandEcuData& it) { return std::tie(it.m_ushEcuConnectionStatus, it.m_ulEcuId); }
-//
-// A message's function lists its own fields; the members of its bases are handled here.
+// What tests do with any record or message by way of its fields: fill an object, change it, describe all that it holds, see
+// whether anything is set. The test of a class includes the header of krm/fields/ that has it.
 #ifndef KRM_TESTS_SUPPORT_FIELDS_H_
 #define KRM_TESTS_SUPPORT_FIELDS_H_
 
 #include <cstdint>
 #include <string>
-#include <tuple>
+#include <string_view>
 #include <type_traits>
 
-#include "krm/core/list.h"
-#include "krm/framework/message.h"
+#include "krm/fields/fields.h"
 #include "krm/platform/platform.h"
 
-inline auto FieldsOf(CKRMError& it) {
-    return std::tie(it.a_ulReturnCode, it.a_strErrorModuleName, it.a_strErrorClassName, it.a_strErrorFunctionName,
-                    it.a_strErrorFunctionArgs, it.a_strMessage);
-}
-
 namespace krm::test {
-
-template <class T>
-struct IsListTrait : std::false_type {};
-template <class T>
-struct IsListTrait<CKRMList<T>> : std::true_type {};
-template <class T>
-concept IsList = IsListTrait<T>::value;
-
-template <class T>
-concept HasEcuId = requires(T& it) {
-    it.T::DirectionBase::m_ulEcuId;
-};
-template <class T>
-concept HasNotSupport = requires(T& it) {
-    it.T::DirectionBase::m_bNotSupport;
-};
-template <class T>
-concept HasVdcSndValue = requires(T& it) {
-    it.T::DirectionBase::m_ulVdcSndValue;
-};
-
-/// Calls `visit` for each field of `it`, the members of a message's bases first.
-template <class T, class Visit>
-void ForEachField(T& it, Visit visit) {
-    if constexpr (HasEcuId<T>) {
-        visit(it.T::DirectionBase::m_ulEcuId);
-    }
-    if constexpr (HasNotSupport<T>) {
-        visit(it.T::DirectionBase::m_bNotSupport);
-    }
-    if constexpr (HasVdcSndValue<T>) {
-        visit(it.T::DirectionBase::m_ulVdcSndValue);
-    }
-    std::apply([&](auto&... fields) { (visit(fields), ...); }, FieldsOf(it));
-}
 
 /// A repeatable stream of numbers (xorshift), the same on every platform.
 class Seed {
@@ -98,14 +51,14 @@ void Fill(T& it, Seed& seed) {
             Fill(value, seed);
             it.SetAt(key, value);
         }
-    } else if constexpr (IsList<T>) {
+    } else if constexpr (kIsList<T>) {
         for (int i = 0; i < 2; ++i) {
-            std::remove_cvref_t<decltype(it.GetAt(0))> element{};
+            ElementOf<T> element{};
             Fill(element, seed);
             it.AddTail(element);
         }
     } else {
-        ForEachField(it, [&](auto& field) { Fill(field, seed); });
+        ForEachField(it, [&](std::string_view, auto& field) { Fill(field, seed); });
     }
 }
 
@@ -122,12 +75,12 @@ void Change(T& it, Seed& seed) {
         for (auto& [key, value] : it) {
             Fill(value, seed);
         }
-    } else if constexpr (IsList<T> || std::is_array_v<T>) {
+    } else if constexpr (kIsList<T> || std::is_array_v<T>) {
         for (auto& element : it) {
             Change(element, seed);
         }
     } else {
-        ForEachField(it, [&](auto& field) { Change(field, seed); });
+        ForEachField(it, [&](std::string_view, auto& field) { Change(field, seed); });
     }
 }
 
@@ -144,11 +97,11 @@ bool IsZero(T& it) {
             zero = zero && IsZero(element);
         }
         return zero;
-    } else if constexpr (IsList<T> || std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
+    } else if constexpr (kIsList<T> || std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
         return it.GetCount() == 0;
     } else {
         bool zero = true;
-        ForEachField(it, [&](auto& field) { zero = zero && IsZero(field); });
+        ForEachField(it, [&](std::string_view, auto& field) { zero = zero && IsZero(field); });
         return zero;
     }
 }
@@ -159,15 +112,15 @@ bool HasUnfilled(T& it) {
     if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, CKRMString> ||
                   std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
         return IsZero(it);
-    } else if constexpr (IsList<T> || std::is_array_v<T>) {
-        bool unfilled = IsList<T> && IsZero(it);
+    } else if constexpr (kIsList<T> || std::is_array_v<T>) {
+        bool unfilled = kIsList<T> && IsZero(it);
         for (auto& element : it) {
             unfilled = unfilled || HasUnfilled(element);
         }
         return unfilled;
     } else {
         bool unfilled = false;
-        ForEachField(it, [&](auto& field) { unfilled = unfilled || HasUnfilled(field); });
+        ForEachField(it, [&](std::string_view, auto& field) { unfilled = unfilled || HasUnfilled(field); });
         return unfilled;
     }
 }
@@ -191,7 +144,7 @@ void Describe(T& it, std::string& out) {
         for (const auto& [key, value] : it) {
             out += std::string(key.GetText()) + '=' + value.GetText() + ';';
         }
-    } else if constexpr (IsList<T>) {
+    } else if constexpr (kIsList<T>) {
         out += '[' + std::to_string(it.GetCount()) + ':';
         for (auto& element : it) {
             Describe(element, out);
@@ -202,7 +155,7 @@ void Describe(T& it, std::string& out) {
         if constexpr (std::is_base_of_v<CKRMBaseAdaptationData, T>) {
             out += std::to_string(it.GetCommandType()) + '/' + std::to_string(it.GetCommandID()) + ' ';
         }
-        ForEachField(it, [&](auto& field) { Describe(field, out); });
+        ForEachField(it, [&](std::string_view, auto& field) { Describe(field, out); });
         out += '}';
     }
 }

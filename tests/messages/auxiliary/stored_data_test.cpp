@@ -7,7 +7,7 @@
 #include <new>
 #include <string>
 
-#include "tests/messages/auxiliary/stored_data_fields.h"
+#include "krm/fields/auxiliary/stored_data.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/log_text.h"

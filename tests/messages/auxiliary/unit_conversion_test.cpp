@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/messages/auxiliary/unit_conversion_fields.h"
+#include "krm/fields/auxiliary/unit_conversion.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/log_text.h"

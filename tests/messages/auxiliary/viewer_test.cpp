@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/messages/auxiliary/viewer_fields.h"
+#include "krm/fields/auxiliary/viewer.h"
 #include "tests/support/fields.h"
 
 namespace {

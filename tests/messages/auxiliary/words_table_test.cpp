@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/messages/auxiliary/words_table_fields.h"
+#include "krm/fields/auxiliary/words_table.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_text.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <type_traits>
 
-#include "tests/messages/diag/active_test_fields.h"
+#include "krm/fields/diag/active_test.h"
 #include "tests/messages/diag/expected_lines.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_text.h"

@@ -4,8 +4,8 @@
 
 #include <string>
 
+#include "krm/fields/diag/data_monitor.h"
 #include "krm/messages/diag/oscilloscope_channel.h"
-#include "tests/messages/diag/data_monitor_fields.h"
 #include "tests/messages/diag/expected_lines.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_text.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/messages/diag/display_fields.h"
+#include "krm/fields/diag/display.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_text.h"
 

@@ -4,9 +4,9 @@
 
 #include <string>
 
+#include "krm/fields/diag/trouble_code.h"
 #include "krm/messages/diag/display.h"
 #include "tests/messages/diag/expected_lines.h"
-#include "tests/messages/diag/trouble_code_fields.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_text.h"
 

@@ -4,10 +4,10 @@
 
 #include <string>
 
+#include "krm/fields/diag/trouble_codes.h"
 #include "krm/messages/diag/trouble_code.h"
 #include "krm/messages/diag/words.h"
 #include "tests/messages/diag/expected_lines.h"
-#include "tests/messages/diag/trouble_codes_fields.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_text.h"
 
