@@ -2,9 +2,10 @@
 //
 //     krm::ForEachField(answer, [](std::string_view name, const auto& field) { ... });
 //
-// krm/fields/ has the fields of every message, record and plain structure, in a header for each one of krm/messages/, and
-// all of them in all_fields.h. It includes krm/core/, krm/framework/, krm/messages/ and the platform, and nothing but what
-// is built upon it includes it: who doesn't ask for fields doesn't pay for them.
+// krm/fields/ has the fields of every message, record and plain structure, in a header for each one of krm/messages/, all
+// of them in all_fields.h, and what they are at run time in message_descriptions.h. It includes krm/core/, krm/framework/,
+// krm/messages/ and the platform, and nothing but what is built upon it includes it: who doesn't ask for fields doesn't pay
+// for them.
 //
 // A class's fields are written down once, in the order of their declaration; the compiler knows their names. A class of
 // one's own gets them in the same way:

@@ -33,7 +33,7 @@ std::unique_ptr<CKRMBaseAdaptationData> NewMessageOf(ClassList<Messages...>, krm
 }  // namespace
 
 std::unique_ptr<CKRMBaseAdaptationData> NewMessage(krm_ulong commandType, krm_ulong commandId, Direction direction) {
-    return NewMessageOf(AllMessages(), commandType, commandId, direction);
+    return NewMessageOf(AllMessageClasses(), commandType, commandId, direction);
 }
 
 }  // namespace krm

@@ -38,7 +38,7 @@ template <class... Classes>
 struct ClassList {};
 
 /// The request and the answer of every command, in the order of krm::kCommands.
-using AllMessages = ClassList<
+using AllMessageClasses = ClassList<
     CKRMCGetDTCCmdAdaptDataSnd, CKRMCGetDTCCmdAdaptDataRcv, CKRMCClearDTCCmdAdaptDataSnd, CKRMCClearDTCCmdAdaptDataRcv,
     CKRMCGetFFDCmdAdaptDataSnd, CKRMCGetFFDCmdAdaptDataRcv, CKRMCIsMultiFFDCmdAdaptDataSnd,
     CKRMCIsMultiFFDCmdAdaptDataRcv, CKRMCVehicleDecisionCmdAdaptDataSnd, CKRMCVehicleDecisionCmdAdaptDataRcv,

@@ -142,7 +142,7 @@ template <class First, class... Others>
 krm::ClassList<Others...> WithoutFirst(krm::ClassList<First, Others...>);
 #define KRM_NEXT(Class, ...) , Class
 static_assert(
-    std::is_same_v<krm::AllMessages, decltype(WithoutFirst(krm::ClassList<void KRM_ALL_MESSAGES(KRM_NEXT)>()))>);
+    std::is_same_v<krm::AllMessageClasses, decltype(WithoutFirst(krm::ClassList<void KRM_ALL_MESSAGES(KRM_NEXT)>()))>);
 #undef KRM_NEXT
 
 // The name of the class of `command`'s request (`direction` "Snd") or answer ("Rcv").

@@ -71,7 +71,7 @@ void ExpectNames(krm::ClassList<Messages...>) {
 }
 
 TEST(NameOfMessage, IsTheClassOfEveryMessage) {
-    ExpectNames(krm::AllMessages());
+    ExpectNames(krm::AllMessageClasses());
 }
 
 TEST(NameOfMessage, OfAnUntypedMessageNeedsTheDirection) {
