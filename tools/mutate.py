@@ -61,6 +61,10 @@ EQUIVALENT = ROOT / "tools" / "mutate_equivalent.txt"
 TESTS_OF_HEADERS = {
     "krm/core/error_codes.h": ["tests/framework/errors_test.cpp"],
     "krm/core/list.h": ["tests/core/list_test.cpp", "tests/core/list_tools_test.cpp"],
+    "krm/core/internal/digits.h": ["tests/core/digits_test.cpp"],
+    "krm/messages/diag/j2534_config.h": ["tests/messages/diag/vehicle_test.cpp"],
+    "krm/tree/node.h": ["tests/tree/element_test.cpp"],
+    "krm/convert/number_converters.h": ["tests/convert/specialised_numbers_test.cpp"],
     "krm/framework/dump.h": ["tests/framework/record_test.cpp", "tests/messages/diag/words_test.cpp"],
     "krm/framework/record.h": ["tests/framework/record_test.cpp"],
     "krm/framework/message.h": ["tests/framework/message_test.cpp"],
