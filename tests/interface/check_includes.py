@@ -6,7 +6,8 @@
 The table's rows name a folder and what it may include: `nothing`, other folders by their last name, or single headers by
 their path below krm/. Every header and source of krm/ and platform/ must lie in a folder of the table (directly in krm/
 only headers may lie, which gather others), may include its own folder and what its row names, and a public header no
-`internal/` one.
+`internal/` one. Tests are compiled with GoogleMock's header in front of them: whoever uses its macros includes it all the
+same, or GoogleTest's where that is enough.
 """
 
 import re
@@ -75,6 +76,21 @@ def circle(allowed):
     return None
 
 
+def test_faults(root):
+    """The tests that use GoogleTest or GoogleMock without including it."""
+    for path in sorted((root / "tests").rglob("*_test.cpp")):
+        text = path.read_text(encoding="utf-8")
+        if re.search(r"\b(EXPECT_THAT|ASSERT_THAT|MOCK_METHOD)\(", text):
+            wanted = ["gmock/gmock.h"]
+        elif re.search(r"\bTEST(_F|_P)?\(", text):
+            wanted = ["gtest/gtest.h", "gmock/gmock.h"]
+        else:
+            continue
+        included = re.findall(r'#include [<"]([^">]+)[">]', text)
+        if not set(included) & set(wanted):
+            yield f"{path.relative_to(root).as_posix()}: doesn't include {wanted[0]}"
+
+
 def main():
     root = Path(sys.argv[1])
     allowed = allowed_paths(read_table((root / "CONTRIBUTING.md").read_text(encoding="utf-8")))
@@ -112,6 +128,7 @@ def main():
             if not any(included == entry or (entry.endswith("/") and included.startswith(entry))
                        for entry in allowed[folder]):
                 faults.append(where + f"{folder} may not include {included}")
+    faults += test_faults(root)
     for fault in faults:
         print(fault)
     print(f"{len(files)} files, {includes} includes, {len(faults)} faults")

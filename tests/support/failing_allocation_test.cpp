@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <new>
 
+#include "gtest/gtest.h"
 #include "krm/platform/platform.h"
 
 namespace krm::test {
