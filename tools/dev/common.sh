@@ -29,8 +29,18 @@ need() {
     done
     [ ${#missing[@]} -eq 0 ] && return
     say "installing ${missing[*]}"
-    as_root apt-get update -qq
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    (
+        apt_alone
+        as_root apt-get update -qq
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    )
+}
+
+# The subshell that calls it is the only one that uses apt until its end: two verbs may run at a time.
+apt_alone() {
+    mkdir -p "$cache"
+    exec 9>"$cache/apt.lock"
+    flock 9
 }
 
 # What compiles for 32-bit Linux: the package for this very version of g++. That for any version can't be installed beside

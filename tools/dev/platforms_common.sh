@@ -49,13 +49,14 @@ wine_command() {
         :
     elif ! [ -e "$cache/wine-root/.complete" ]; then
         say "installing wine for 32-bit Windows programs" >&2
-        {
+        (
+            apt_alone
             as_root dpkg --add-architecture i386 && as_root apt-get update -qq &&
-                as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends wine32:i386
-        } >/dev/null 2>&1 || {
-            as_root dpkg --remove-architecture i386 >/dev/null 2>&1 || true
-            as_root apt-get update -qq >/dev/null 2>&1 || true
-        }
+                as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends wine32:i386 || {
+                as_root dpkg --remove-architecture i386 || true
+                as_root apt-get update -qq || true
+            }
+        ) >/dev/null 2>&1
     fi
     local wine
     for wine in /usr/lib/i386-linux-gnu/wine/wine /usr/lib/wine/wine; do
