@@ -33,7 +33,9 @@ constexpr std::array<char, 256> kEscapes = [] {
     return escapes;
 }();
 
-void WriteString(std::string_view text, std::string& out) {
+}  // namespace
+
+void json::WriteString(std::string_view text, std::string& out) {
     out += '"';
     std::size_t written = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -54,10 +56,12 @@ void WriteString(std::string_view text, std::string& out) {
     out += '"';
 }
 
+namespace {
+
 void WriteText(const CKRMString& value, std::string& out) {
     const std::string_view text = View(value);
     if (json::IsUtf8(text)) {
-        WriteString(text, out);
+        json::WriteString(text, out);
         return;
     }
     out += "{\"";
@@ -161,7 +165,7 @@ void WriteMember(std::string_view name, std::string_view text, std::string& out)
     out += '"';
     out += name;
     out += "\":";
-    WriteString(text, out);
+    json::WriteString(text, out);
     out += ',';
 }
 

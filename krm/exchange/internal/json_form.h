@@ -4,8 +4,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
+#include "krm/core/types.h"
+#include "krm/fields/message_descriptions.h"
 #include "krm/framework/message.h"
 
 namespace krm::json {
@@ -29,6 +32,8 @@ inline constexpr std::string_view kBytes = "$bytes";
 // parentheses, as 16 hexadecimal digits.
 inline constexpr std::string_view kNan = "NaN";
 inline constexpr std::uint64_t kQuietNan = 0x7FF8000000000000U;
+inline constexpr std::uint64_t kPositiveInfinity = 0x7FF0000000000000U;
+inline constexpr std::uint64_t kSign = 0x8000000000000000U;
 inline constexpr std::string_view kInfinity = "Infinity";
 inline constexpr std::string_view kMinusInfinity = "-Infinity";
 
@@ -59,6 +64,21 @@ inline bool IsUtf8(std::string_view text) {
     }
     return true;
 }
+
+/// What an integer's type holds.
+struct Range {
+    krm_int64 lowest;
+    krm_int64 highest;
+};
+inline Range RangeOf(const TypeDescription& integer) {
+    const bool isSigned = integer.kind == ValueKind::Signed;
+    const std::size_t bits = integer.size * 8 - (isSigned ? 1 : 0);
+    const auto highest = static_cast<krm_int64>((std::uint64_t{1} << bits) - 1);
+    return {isSigned ? -highest - 1 : 0, highest};
+}
+
+/// Appends `text` as a JSON string. REQUIRES: it is UTF-8.
+void WriteString(std::string_view text, std::string& out);
 
 }  // namespace krm::json
 
