@@ -272,7 +272,7 @@ TEST(FromJson, TellsCommandsOfOneNameApart) {
     const auto className = [](std::string_view family) {
         const MessageFromJson read = FromJson(R"({"command":"GetTranslationString","family":")" + std::string(family) +
                                               R"(","direction":"answer","content":{}})");
-        return read ? read.description->className : ErrorOf(read);
+        return read ? std::string(read.description->className) : ErrorOf(read);
     };
     EXPECT_EQ(className("Cmd"), "CKRMCGetTranslationStringCmdAdaptDataRcv");
     EXPECT_EQ(className("Dwt"), "CKRMCGetTranslationStringDwtAdaptDataRcv");
