@@ -14,6 +14,7 @@
 int main(int argc, char** argv) {
     krm::bench::RegisterConverters();
     krm::bench::RegisterMessages();
+    krm::bench::RegisterJson();
     krm::bench::RegisterLists();
     krm::bench::RegisterTrees();
     krm::bench::RegisterMemory();

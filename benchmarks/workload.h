@@ -77,6 +77,7 @@ void Grow(const std::string& name, const Function& run, int from, int to);
 // One per area; main() calls them in the order of the table.
 void RegisterConverters();
 void RegisterMessages();
+void RegisterJson();
 void RegisterLists();
 void RegisterTrees();
 void RegisterMemory();

@@ -1,6 +1,6 @@
 # Uses the library as other projects do. HOW says what is tried; tests/package/CMakeLists.txt hands the rest over.
 set(_options -G ${GENERATOR} -DCMAKE_MAKE_PROGRAM=${MAKE_PROGRAM} -DCMAKE_CXX_COMPILER=${CXX_COMPILER}
-    -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_EXE_LINKER_FLAGS=${EXE_LINKER_FLAGS})
+    -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_EXE_LINKER_FLAGS=${EXE_LINKER_FLAGS} -DWITH_EXCHANGE=${EXCHANGE})
 set(_configuration)
 if(SEVERAL_BUILD_TYPES)
     # One of them is enough; other generators get none, as many a project leaves it.
@@ -50,7 +50,7 @@ elseif(HOW STREQUAL "subdirectory")
     # Static and as a unity build, so that the whole library compiles quickly and both are tried.
     file(REMOVE_RECURSE ${WORK_DIR}/subdirectory ${WORK_DIR}/static ${WORK_DIR}/static-moved)
     build(${_consumer} ${WORK_DIR}/subdirectory/build -DKRM_SOURCE_DIR=${SOURCE_DIR} -DBUILD_SHARED_LIBS=OFF
-        -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=16)
+        -DKRM_BUILD_EXCHANGE=${EXCHANGE} -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=16)
     run(${CMAKE_COMMAND} --install ${WORK_DIR}/subdirectory/build ${_configuration}
         --prefix ${WORK_DIR}/subdirectory/prefix)
     expect_installed(${WORK_DIR}/subdirectory/prefix share/consumer/CMakeLists.txt)

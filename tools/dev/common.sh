@@ -7,8 +7,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 # Outside the checkout, so that a clean checkout needn't make it again.
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/krm
 
-build_tools=(cmake ninja-build g++ make)
-test_tools=(googletest nlohmann-json3-dev libcli11-dev zlib1g-dev libpugixml-dev python3-minimal)
+build_tools=(cmake ninja-build g++ make rapidjson-dev)
+test_tools=(googletest nlohmann-json3-dev libcli11-dev zlib1g-dev libpugixml-dev python3-minimal python3-jsonschema)
 
 say() { printf '== %s\n' "$*"; }
 as_root() {

@@ -1,0 +1,72 @@
+// Every message class as JSON and back.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "krm/exchange/json.h"
+#include "krm/fields/all_fields.h"
+#include "krm/messages/all_messages.h"
+#include "tests/exchange/random_content.h"
+#include "tests/support/all_classes.h"
+#include "tests/support/fields.h"
+
+namespace {
+
+struct ListedMessage {
+    std::string_view className;
+    krm_ulong type;
+    krm_ulong id;
+    krm::Direction direction;
+    std::string (*described)(CKRMBaseAdaptationData& message);
+};
+
+void PrintTo(const ListedMessage& message, std::ostream* out) {
+    *out << message.className;
+}
+
+template <class Message>
+constexpr ListedMessage Listed(std::string_view name, krm_ulong type, krm_ulong id) {
+    return {name, type, id, Message::kDirection,
+            [](CKRMBaseAdaptationData& message) { return krm::test::Described(static_cast<Message&>(message)); }};
+}
+
+#define KRM_LISTED(Class, Base, type, id, command) Listed<Class>(#Class, type, id),
+constexpr ListedMessage kListed[] = {KRM_ALL_MESSAGES(KRM_LISTED)};
+#undef KRM_LISTED
+
+class JsonOfEveryMessage : public testing::TestWithParam<ListedMessage> {};
+INSTANTIATE_TEST_SUITE_P(All, JsonOfEveryMessage, testing::ValuesIn(kListed),
+                         [](const auto& test) { return std::string(test.param.className); });
+
+TEST_P(JsonOfEveryMessage, GivesAnEqualObject) {
+    const krm::MessageDescription* const description =
+        krm::FindMessage(GetParam().type, GetParam().id, GetParam().direction);
+    ASSERT_NE(description, nullptr);
+    for (std::uint32_t seed = 1; seed <= 24; ++seed) {
+        const std::unique_ptr<CKRMBaseAdaptationData> message = krm::test::RandomMessage(*description, seed);
+        const std::string text = krm::ToJson(*message, GetParam().direction);
+        const krm::MessageFromJson read = krm::FromJson(text);
+        ASSERT_TRUE(read) << read.error.path << " @" << read.error.offset << ": " << read.error.text << '\n' << text;
+        ASSERT_EQ(read.description, description);
+        ASSERT_EQ(GetParam().described(*read.message), GetParam().described(*message)) << text;
+        // It also tells apart what the description doesn't: the bits of NaNs.
+        ASSERT_EQ(krm::ToJson(*read.message, *description), text);
+    }
+}
+
+TEST_P(JsonOfEveryMessage, OfANewObjectGivesANewObject) {
+    const krm::MessageDescription& description =
+        *krm::FindMessage(GetParam().type, GetParam().id, GetParam().direction);
+    const std::unique_ptr<CKRMBaseAdaptationData> fresh = description.create();
+    const krm::MessageFromJson read = krm::FromJson(krm::ToJson(*fresh, description));
+    const krm::MessageFromJson ofNothing = krm::FromJson(R"({"content":{}})", description);
+    ASSERT_TRUE(read && ofNothing);
+    EXPECT_EQ(GetParam().described(*read.message), GetParam().described(*fresh));
+    EXPECT_EQ(GetParam().described(*ofNothing.message), GetParam().described(*fresh));
+}
+
+}  // namespace
