@@ -61,8 +61,14 @@ constexpr std::string_view CommandNameIn(const MessageOf<Message, Base, command>
 
 /// The name of the command with this type and ID, as in krm::kCommands; "type 1, ID 900" where that has none.
 inline std::string CommandNameOf(krm_ulong type, krm_ulong id) {
-    const Command* const command = FindCommand(type, id);
-    return command != nullptr ? command->name : "type " + std::to_string(type) + ", ID " + std::to_string(id);
+    if (const Command* const command = FindCommand(type, id); command != nullptr) {
+        return command->name;
+    }
+    std::string unknown = "type ";
+    unknown += std::to_string(type);
+    unknown += ", ID ";
+    unknown += std::to_string(id);
+    return unknown;
 }
 
 /// The name of the message's command. A class of one's own knows its command's, though the table doesn't.

@@ -117,6 +117,11 @@ TEST(SoftExtended, SumsOfNumbersAWorldApart) {
     }
 }
 
+TEST(SoftExtended, ZeroAsADoubleIsZero) {
+    EXPECT_EQ(3.0, static_cast<double>(SoftExtended(0.0) + SoftExtended(krm_int64{3})));
+    EXPECT_EQ(0.0, static_cast<double>(SoftExtended(0.0) * SoftExtended(1.5)));
+}
+
 TEST(SoftExtended, ADifferenceBelowTheLastBit) {
     KRM_NOT_UNDER(Memcheck, "memcheck computes the processor's 80-bit numbers in 64 bits");
     // 2^64 less 2^64 - 1, which has all 64 bits set: what is left is the bit that was shifted out of them.

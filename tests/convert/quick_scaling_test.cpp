@@ -161,7 +161,9 @@ TEST(QuickScaling, TiesAndPowersOfTwo) {
 TEST(QuickScaling, NothingOfWhatDoesNotFit) {
     EXPECT_EQ(std::nullopt, QuickScaling(1, 1, 3, 0, 7)) << "seven decimals";
     EXPECT_EQ(std::nullopt, QuickScaling(0xFFFFFFFF, 0x7FFFFFFF, 3, 0, 0)) << "63 bits of product";
+    EXPECT_EQ(std::nullopt, QuickScaling(0xFFFFFFFF, -0x7FFFFFFF, 3, 0, 0)) << "63 bits of product, below zero";
     EXPECT_EQ(std::nullopt, QuickScaling(1, 1, 0x7FFFFFFF, 0x7FFFFFFF, 0)) << "62 bits of offset";
+    EXPECT_EQ(std::nullopt, QuickScaling(1, 1, 0x7FFFFFFF, -0x7FFFFFFF, 0)) << "62 bits of offset, below zero";
     EXPECT_EQ(std::nullopt, QuickScaling(1, 1, 0x7FFFFFFF, 0, 6)) << "51 bits of denominator";
     EXPECT_EQ(std::nullopt, QuickScaling(1, 1, 4000, 0, 0)) << "below 2^-11";
     EXPECT_EQ(std::optional<double>(0x1p50 - 1), QuickScaling(0x7FFFFFFF, 1 << 20, 2, (1 << 19) - 1, 0))

@@ -58,10 +58,9 @@ public:
         const std::uint64_t high = left.m_mantissa >> halved;
         const std::uint64_t low = halved != 0 ? left.m_mantissa << 63U : 0;
         const auto [quotient, remainder] = Divided(high, low, right.m_mantissa);
-        // What the remainder makes of the bits behind the quotient: below, at or above half a unit.
-        const bool above = remainder > right.m_mantissa - remainder;
-        const bool tie = remainder == right.m_mantissa - remainder;
-        const std::uint64_t rest = above ? ~std::uint64_t{0} : tie ? kTopBit : remainder != 0;
+        // What the remainder makes of the bits behind the quotient: below or above half a unit. It is never just half, for
+        // the quotient's 65 bits times the divisor, with the last one set, would not fit the dividend's 64.
+        const std::uint64_t rest = remainder > right.m_mantissa - remainder ? ~std::uint64_t{0} : remainder != 0;
         return Rounded(left.m_negative != right.m_negative, quotient, rest,
                        left.m_exponent - right.m_exponent + static_cast<int>(halved) - 128);
     }
