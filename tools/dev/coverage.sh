@@ -14,7 +14,7 @@ status=0
 gcovr --root . --filter krm/ --filter platform/ --exclude-throw-branches --exclude-unreachable-branches \
     --fail-under-line 100 --fail-under-branch 95 --csv build/coverage/coverage.csv \
     --txt build/coverage/coverage.txt --html-details build/coverage/coverage.html --print-summary \
-    build/coverage/krm build/coverage/tests/CMakeFiles || status=$?
+    build/coverage/krm build/coverage/tests/CMakeFiles build/coverage/examples || status=$?
 awk -F, '
     function percent(part, all) { return all ? int(1000 * part / all) / 10 : 100 } # cut: 100 means all
     function row(name, l, lt, b, bt) {
