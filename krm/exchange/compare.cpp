@@ -19,7 +19,7 @@ namespace {
 
 using comparing::Rules;
 using Kind = Difference::Kind;
-using Map = CKRMMap<CKRMString, CKRMString>;
+using TextMap = CKRMMap<CKRMString, CKRMString>;
 
 /// Whether both describe the same class. A program and a DLL may have a description each.
 bool IsSame(const TypeDescription& left, const TypeDescription& right) {
@@ -30,19 +30,21 @@ bool IsSame(const TypeDescription& left, const TypeDescription& right) {
 }
 
 /// Where a value lies: a chain of places on the stack up to what is compared, so that only a difference costs a text.
-struct Place {
-    const Place* around;    // null at the outermost
-    std::string_view name;  // of a field, else of a map's entry
+struct PathStep {
+    const PathStep* around;  // null at the outermost
+    std::string_view name;   // of a field, else of a map's entry
     bool isEntry;
     int index1;  // of an element, in the first value and in the second; of anything else -1
     int index2;
 
-    static Place Field(const Place* around, std::string_view name) { return {around, name, false, -1, -1}; }
-    static Place Entry(const Place* around, std::string_view key) { return {around, key, true, -1, -1}; }
-    static Place Element(const Place* around, int index1, int index2) { return {around, {}, false, index1, index2}; }
+    static PathStep Field(const PathStep* around, std::string_view name) { return {around, name, false, -1, -1}; }
+    static PathStep Entry(const PathStep* around, std::string_view key) { return {around, key, true, -1, -1}; }
+    static PathStep Element(const PathStep* around, int index1, int index2) {
+        return {around, {}, false, index1, index2};
+    }
 };
 
-void AppendPath(const Place* place, int Place::*index, std::string& out) {
+void AppendPath(const PathStep* place, int PathStep::*index, std::string& out) {
     if (place == nullptr) {
         return;
     }
@@ -63,7 +65,7 @@ void AppendPath(const Place* place, int Place::*index, std::string& out) {
     }
 }
 
-std::string PathOf(const Place* place, int Place::*index) {
+std::string PathOf(const PathStep* place, int PathStep::*index) {
     std::string path;
     AppendPath(place, index, path);
     return path;
@@ -195,7 +197,7 @@ public:
         m_values.reserve(128);  // for most messages the only block
     }
 
-    void Visit(ConstValue first, ConstValue second, const Rules* rules, const Place* place) {
+    void Visit(ConstValue first, ConstValue second, const Rules* rules, const PathStep* place) {
         if (comparing::Ignores(rules)) {
             return;
         }
@@ -215,7 +217,7 @@ public:
                 return rules != nullptr && rules->keyed ? VisitByKey(first, second, *rules, place)
                                                         : VisitByPosition(first, second, rules, place);
             case ValueKind::Map:
-                return VisitEntries(*first.As<Map>(), *second.As<Map>(), rules, place);
+                return VisitEntries(*first.As<TextMap>(), *second.As<TextMap>(), rules, place);
         }
     }
 
@@ -245,17 +247,17 @@ private:
         std::size_t m_begin;
     };
 
-    void VisitFields(ConstValue first, ConstValue second, const Rules* rules, const Place* around) {
+    void VisitFields(ConstValue first, ConstValue second, const Rules* rules, const PathStep* around) {
         Children ofSecond(m_values);
         ofSecond.AddFields(second);
         first.ForEachField([&, index = std::size_t(0)](std::string_view name, ConstValue field) mutable {
-            const Place place = Place::Field(around, name);
+            const PathStep place = PathStep::Field(around, name);
             Visit(field, ofSecond[index], comparing::OfField(rules, index), &place);
             ++index;
         });
     }
 
-    void VisitByPosition(ConstValue first, ConstValue second, const Rules* rules, const Place* around) {
+    void VisitByPosition(ConstValue first, ConstValue second, const Rules* rules, const PathStep* around) {
         Children ofSecond(m_values);
         ofSecond.AddElements(second);
         const int count2 = second.Count();
@@ -273,7 +275,7 @@ private:
         }
     }
 
-    void VisitByKey(ConstValue first, ConstValue second, const Rules& rules, const Place* around) {
+    void VisitByKey(ConstValue first, ConstValue second, const Rules& rules, const PathStep* around) {
         const auto count1 = static_cast<std::size_t>(first.Count());
         const auto count2 = static_cast<std::size_t>(second.Count());
         Children children(m_values);
@@ -302,7 +304,7 @@ private:
         }
     }
 
-    void RequireOrder(const Keys& keys1, const Keys& keys2, std::vector<std::size_t> partners, const Place* place) {
+    void RequireOrder(const Keys& keys1, const Keys& keys2, std::vector<std::size_t> partners, const PathStep* place) {
         std::string text1 = "[";
         std::string text2 = "[";
         const char* separator = "";
@@ -327,9 +329,9 @@ private:
         Report(Kind::Reordered, place, text1 + ']', text2 + ']');
     }
 
-    void VisitEntries(const Map& first, const Map& second, const Rules* rules, const Place* around) {
+    void VisitEntries(const TextMap& first, const TextMap& second, const Rules* rules, const PathStep* around) {
         using Entry = std::pair<std::string_view, const CKRMString*>;
-        const auto entriesOf = [&](const Map& map) {
+        const auto entriesOf = [&](const TextMap& map) {
             std::vector<Entry> entries;
             for (const auto& [key, text] : map) {
                 if (!comparing::IgnoresEntry(rules, View(key))) {
@@ -348,7 +350,7 @@ private:
         while (next1 != entries1.end() || next2 != entries2.end()) {
             const bool has1 = next1 != entries1.end() && (next2 == entries2.end() || next1->first <= next2->first);
             const bool has2 = next2 != entries2.end() && (next1 == entries1.end() || next2->first <= next1->first);
-            const Place place = Place::Entry(around, has1 ? next1->first : next2->first);
+            const PathStep place = PathStep::Entry(around, has1 ? next1->first : next2->first);
             if (has1 && has2) {
                 Visit(value(*next1), value(*next2), nullptr, &place);
             } else {
@@ -362,36 +364,36 @@ private:
     }
 
     void VisitElements(ConstValue first, int index1, ConstValue second, int index2, const Rules* rules,
-                       const Place* around) {
-        const Place place = Place::Element(around, index1, index2);
+                       const PathStep* around) {
+        const PathStep place = PathStep::Element(around, index1, index2);
         Visit(first, second, comparing::OfElement(rules, index1), &place);
     }
 
-    void Remove(ConstValue element, int index, const Rules* rules, const Place* around) {
+    void Remove(ConstValue element, int index, const Rules* rules, const PathStep* around) {
         const Rules* const ofElement = comparing::OfElement(rules, index);
         if (!comparing::Ignores(ofElement)) {
-            const Place place = Place::Element(around, index, index);
+            const PathStep place = PathStep::Element(around, index, index);
             Report(Kind::Removed, &place, TextOf(element, ofElement), {});
         }
     }
 
-    void Add(ConstValue element, int index, const Rules* rules, const Place* around) {
+    void Add(ConstValue element, int index, const Rules* rules, const PathStep* around) {
         const Rules* const ofElement = comparing::OfElement(rules, index);
         if (!comparing::Ignores(ofElement)) {
-            const Place place = Place::Element(around, index, index);
+            const PathStep place = PathStep::Element(around, index, index);
             Report(Kind::Added, &place, {}, TextOf(element, ofElement));
         }
     }
 
-    void Require(bool equal, ConstValue first, ConstValue second, const Place* place) {
+    void Require(bool equal, ConstValue first, ConstValue second, const PathStep* place) {
         if (!equal) {
             Report(Kind::Changed, place, TextOf(first, nullptr), TextOf(second, nullptr));
         }
     }
 
-    void Report(Kind kind, const Place* place, std::string text1, std::string text2) {
-        m_found.push_back(
-            {kind, PathOf(place, &Place::index1), PathOf(place, &Place::index2), std::move(text1), std::move(text2)});
+    void Report(Kind kind, const PathStep* place, std::string text1, std::string text2) {
+        m_found.push_back({kind, PathOf(place, &PathStep::index1), PathOf(place, &PathStep::index2), std::move(text1),
+                           std::move(text2)});
     }
 
     const Tolerance& m_tolerance;
