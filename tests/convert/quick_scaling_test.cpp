@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "krm/convert/internal/extended.h"
+#include "tests/support/not_under.h"
 #include "tests/support/scaling_rounds.h"
 
 namespace {
@@ -42,6 +43,7 @@ bool IsKnown(krm_int64 number, krm_long mul, krm_long div, krm_long offset, unsi
 }
 
 TEST(QuickScaling, RandomScalingsAreThoseOfTheSteps) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     std::mt19937 random(27);
     const auto signedNumber = [&random] {
         const auto magnitude = static_cast<krm_int64>(random() >> (random() % 32));
@@ -91,6 +93,7 @@ krm_int64 Inverse(krm_int64 a, krm_int64 modulus) {
 // Fractions that lie as near to the middle of two doubles as their denominator allows: twice the remainder is the
 // denominator, give or take a little.
 TEST(QuickScaling, NextToEveryKindOfRoundingBoundary) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     std::mt19937 random(5);
     int near = 0;
     for (int round = 0; round < 4'000 && !HasFailure(); ++round) {

@@ -18,6 +18,7 @@
 #include "krm/messages/diag/oscilloscope.h"
 #include "tests/support/converters.h"
 #include "tests/support/failing_allocation.h"
+#include "tests/support/not_under.h"
 #include "tests/support/reference_conversions.h"
 
 namespace krm::test {
@@ -270,6 +271,7 @@ struct Domain {
 };
 
 TEST(IsInvertible, SaysWhetherARawValueIsFoundAgain) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     for (const int type : AllCodes()) {
         if (type == 4 || type == 104) {
             continue;
@@ -387,6 +389,7 @@ std::vector<int> NotUndone(const CKRMCCommandConversionData& table) {
 
 /// The interface's own way back undoes the scaling alone.
 TEST(ConvertSignalBack, GivesAnotherRawValueOfTypesThatDoMoreThanScale) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     EXPECT_EQ((std::vector<int>{6, 7, 8, 9, 10, 11, 12, 19, 24, 101, 102, 110, 111, 114}), NotUndone(Table(12)));
     // Dates and times scale byte by byte, which shows as soon as there is a scaling; three types ignore it.
     EXPECT_EQ((std::vector<int>{5, 6, 7, 8, 9, 10, 11, 12, 15, 16, 19, 24, 101, 102, 105, 106, 110, 111, 114}),
@@ -423,6 +426,7 @@ TEST(RawFromPhysical, RoundsToTheNearestAndSaysSo) {
 }
 
 TEST(RawFromPhysical, FindsEveryTypedDecimal) {
+    KRM_NOT_UNDER(Memcheck, "the sweep would take hours");
     const CKRMCCommandConversionData table = Table(16, 1);
     for (int i = -32768; i < 32768; i += 3) {
         const std::string typed = reference::FixedPoint(i / 1000.0, 3);
