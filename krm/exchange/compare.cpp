@@ -12,6 +12,7 @@
 
 #include "krm/exchange/internal/compare_rules.h"
 #include "krm/exchange/internal/compare_text.h"
+#include "krm/exchange/internal/text.h"
 #include "krm/platform/string.h"
 
 namespace krm {
@@ -19,7 +20,7 @@ namespace {
 
 using comparing::Rules;
 using Kind = Difference::Kind;
-using TextMap = CKRMMap<CKRMString, CKRMString>;
+using exchange::TextMap;
 
 /// Whether both describe the same class. A program and a DLL may have a description each.
 bool IsSame(const TypeDescription& left, const TypeDescription& right) {
@@ -55,7 +56,7 @@ void AppendPath(const PathStep* place, int PathStep::*index, std::string& out) {
         out += ']';
     } else if (place->*index >= 0) {
         out += '[';
-        comparing::AppendNumber(place->*index, out);
+        exchange::AppendNumber(place->*index, out);
         out += ']';
     } else {
         if (!out.empty()) {
@@ -104,16 +105,10 @@ int CompareKeys(ConstValue left, ConstValue right) {
 
 /// The value that the path leads to from `element`.
 ConstValue KeyOf(ConstValue element, const Rules::KeyPath& path) {
-    ConstValue key = element;
     for (const std::size_t index : path) {
-        const ConstValue record = key;
-        record.ForEachField([&, i = std::size_t(0)](std::string_view, ConstValue field) mutable {
-            if (i++ == index) {
-                key = field;
-            }
-        });
+        element = element.Field(index);
     }
-    return key;
+    return element;
 }
 
 /// The keys of a list's elements, one behind the other.
@@ -222,7 +217,7 @@ public:
     }
 
 private:
-    /// Puts fields or elements behind what is in m_values, and takes them off when it dies. What is reached through
+    /// Puts elements behind what is in m_values, and takes them off when it dies. What is reached through
     /// m_values stays until then, but moves when more is put behind it.
     class Children {
     public:
@@ -231,9 +226,6 @@ private:
         Children(const Children&) = delete;
         Children& operator=(const Children&) = delete;
 
-        void AddFields(ConstValue record) {
-            record.ForEachField([&](std::string_view, ConstValue field) { m_values.push_back(field); });
-        }
         void AddElements(ConstValue list) {
             list.ForEachElement([&](ConstValue element) { m_values.push_back(element); });
         }
@@ -248,13 +240,11 @@ private:
     };
 
     void VisitFields(ConstValue first, ConstValue second, const Rules* rules, const PathStep* around) {
-        Children ofSecond(m_values);
-        ofSecond.AddFields(second);
-        first.ForEachField([&, index = std::size_t(0)](std::string_view name, ConstValue field) mutable {
-            const PathStep place = PathStep::Field(around, name);
-            Visit(field, ofSecond[index], comparing::OfField(rules, index), &place);
-            ++index;
-        });
+        const std::span<const FieldDescription> fields = first.Type().fields;
+        for (std::size_t i = 0; i < fields.size(); ++i) {
+            const PathStep place = PathStep::Field(around, fields[i].name);
+            Visit(first.Field(i), second.Field(i), comparing::OfField(rules, i), &place);
+        }
     }
 
     void VisitByPosition(ConstValue first, ConstValue second, const Rules* rules, const PathStep* around) {

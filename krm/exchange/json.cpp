@@ -2,20 +2,18 @@
 
 #include <array>
 #include <bit>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
 
 #include "krm/exchange/internal/json_form.h"
+#include "krm/exchange/internal/text.h"
 #include "krm/platform/string.h"
 
 namespace krm {
 
 namespace {
-
-constexpr char kHexDigits[] = "0123456789ABCDEF";
 
 /// The letter behind the backslash of a short escape; 'u' where there is none; NUL for what stands for itself.
 constexpr std::array<char, 256> kEscapes = [] {
@@ -49,7 +47,8 @@ void json::WriteString(std::string_view text, std::string& out) {
         out += '\\';
         out += escape;
         if (escape == 'u') {
-            out += {'0', '0', kHexDigits[byte / 16], kHexDigits[byte % 16]};
+            out += "00";
+            exchange::AppendByte(text[i], out);
         }
     }
     out.append(text, written);
@@ -60,29 +59,22 @@ namespace {
 
 void WriteText(const CKRMString& value, std::string& out) {
     const std::string_view text = View(value);
-    if (json::IsUtf8(text)) {
+    if (exchange::IsUtf8(text)) {
         json::WriteString(text, out);
         return;
     }
     out += "{\"";
     out += json::kBytes;
     out += "\":\"";
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        out += {kHexDigits[byte / 16], kHexDigits[byte % 16]};
+    for (const char byte : text) {
+        exchange::AppendByte(byte, out);
     }
     out += "\"}";
 }
 
-void WriteInteger(krm_int64 value, std::string& out) {
-    std::array<char, 24> digits;
-    out.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
-}
-
 void WriteDouble(const double& value, std::string& out) {
     if (std::isfinite(value)) {
-        std::array<char, 32> digits;  // -1.7976931348623157e+308
-        out.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
+        exchange::AppendNumber(value, out);
         return;
     }
     out += '"';
@@ -94,16 +86,15 @@ void WriteDouble(const double& value, std::string& out) {
         const auto bits = std::bit_cast<std::uint64_t>(value);
         if (bits != json::kQuietNan) {
             out += '(';
-            for (int shift = 60; shift >= 0; shift -= 4) {
-                out += kHexDigits[bits >> shift & 0xFU];
-            }
+            std::array<char, 16> digits;
+            out.append(digits.data(), core::WriteHexadecimal(digits.data(), bits, core::kUpperCase, digits.size()));
             out += ')';
         }
     }
     out += '"';
 }
 
-void WriteMap(const CKRMMap<CKRMString, CKRMString>& map, std::string& out) {
+void WriteMap(const exchange::TextMap& map, std::string& out) {
     out += '[';
     const char* separator = "[";
     for (const auto& [key, value] : map) {
@@ -125,7 +116,7 @@ void WriteValue(ConstValue value, std::string& out) {
             return;
         case ValueKind::Signed:
         case ValueKind::Unsigned:
-            WriteInteger(*value.Integer(), out);
+            exchange::AppendNumber(*value.Integer(), out);
             return;
         case ValueKind::Double:
             WriteDouble(*value.As<double>(), out);
@@ -134,7 +125,7 @@ void WriteValue(ConstValue value, std::string& out) {
             WriteText(*value.As<CKRMString>(), out);
             return;
         case ValueKind::Map:
-            WriteMap(*value.As<CKRMMap<CKRMString, CKRMString>>(), out);
+            WriteMap(*value.As<exchange::TextMap>(), out);
             return;
         case ValueKind::Record:
             separator = '{';

@@ -14,13 +14,14 @@
 #include <vector>
 
 #include "krm/exchange/internal/json_form.h"
+#include "krm/exchange/internal/text.h"
 #include "krm/exchange/json.h"
 
 namespace krm {
 
 namespace {
 
-using TextMap = CKRMMap<CKRMString, CKRMString>;
+using exchange::TextMap;
 
 /// What an open object or array of the document is.
 enum class Place {
@@ -207,7 +208,7 @@ public:
         if (target.type->kind != ValueKind::Text) {
             return Mistaken(target, offset);
         }
-        if (!json::IsUtf8(text)) {
+        if (!exchange::IsUtf8(text)) {
             return Fail(offset, kNotUtf8);
         }
         return SetText(characters, length, target.object, offset);
@@ -249,7 +250,7 @@ public:
         if (frame.place == Place::Record) {
             return FindField(frame, name, offset);
         }
-        if (!json::IsUtf8(name)) {
+        if (!exchange::IsUtf8(name)) {
             return Fail(offset, kNotUtf8);
         }
         frame.member = name;
@@ -503,7 +504,7 @@ private:
             for (index = 0; index < fields.size() && fields[index].name != name; ++index) {
             }
         }
-        if (index == fields.size() && !json::IsUtf8(name)) {
+        if (index == fields.size() && !exchange::IsUtf8(name)) {
             return Fail(offset, kNotUtf8);
         }
         frame.member = name;

@@ -105,11 +105,17 @@ public:
         Constness<T>
     *As() const { return Kind() == kValueKind<T> ? static_cast<Constness<T>*>(m_address) : nullptr; }
 
+    /// The field with this index in Type().fields.
+    /// REQUIRES: the value is a record that has so many.
+    BasicValue Field(std::size_t index) const {
+        const FieldDescription& field = m_type->fields[index];
+        return BasicValue(*field.type, field.in(Changeable()));
+    }
     /// Calls `visitor(std::string_view name, BasicValue field)` for each field of a record, its base's first.
     template <class Visitor>
     void ForEachField(Visitor&& visitor) const {
-        for (const FieldDescription& field : m_type->fields) {
-            visitor(field.name, BasicValue(*field.type, field.in(Changeable())));
+        for (std::size_t i = 0; i < m_type->fields.size(); ++i) {
+            visitor(m_type->fields[i].name, Field(i));
         }
     }
 

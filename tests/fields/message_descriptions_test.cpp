@@ -143,9 +143,9 @@ void Copy(ConstValue from, Value to) {
             *to.As<Map>() = *from.As<Map>();
             return;
         case ValueKind::Record:
-            to.ForEachField([&](std::string_view, Value field) { targets.push_back(field); });
-            from.ForEachField(
-                [&, next = targets.begin()](std::string_view, ConstValue field) mutable { Copy(field, *next++); });
+            for (std::size_t i = 0; i < from.Type().fields.size(); ++i) {
+                Copy(from.Field(i), to.Field(i));
+            }
             return;
         case ValueKind::List:
             to.RemoveAll();

@@ -207,8 +207,7 @@ std::optional<std::string> ApplyToElements(std::span<const Step> steps, const Ty
     if (type.kind == ValueKind::Array && step.index >= type.length) {
         return Named(step) + " has only " + std::to_string(type.length) + " elements";
     }
-    auto place = std::lower_bound(rules.elements.begin(), rules.elements.end(), step.index,
-                                  [](const ElementRules& element, int index) { return element.index < index; });
+    auto place = std::ranges::lower_bound(rules.elements, step.index, {}, &ElementRules::index);
     if (place == rules.elements.end() || place->index != step.index) {
         place = rules.elements.insert(place, {step.index, rules.every.empty() ? Rules() : rules.every.front()});
     }
@@ -235,8 +234,7 @@ std::optional<std::string> FindKey(std::span<const Step> steps, const TypeDescri
     const TypeDescription* type = &element;
     Rules::KeyPath path;
     for (const Step& step : steps) {
-        const auto found = std::find_if(type->fields.begin(), type->fields.end(),
-                                        [&](const FieldDescription& field) { return field.name == step.text; });
+        const auto found = std::ranges::find(type->fields, step.text, &FieldDescription::name);
         if (found == type->fields.end()) {
             return (type->kind == ValueKind::Record ? std::string(type->className) : NameOfType(*type)) +
                    " has no field " + Quoted(step.text);
@@ -337,8 +335,7 @@ const Rules* OfElement(const Rules* rules, int index) {
     if (rules == nullptr) {
         return nullptr;
     }
-    const auto named = std::lower_bound(rules->elements.begin(), rules->elements.end(), index,
-                                        [](const ElementRules& element, int sought) { return element.index < sought; });
+    const auto named = std::ranges::lower_bound(rules->elements, index, {}, &ElementRules::index);
     if (named != rules->elements.end() && named->index == index) {
         return &named->rules;
     }

@@ -3,14 +3,14 @@
 #include <cmath>
 #include <cstddef>
 
-#include "krm/exchange/internal/json_form.h"
-#include "krm/platform/platform.h"
+#include "krm/exchange/internal/text.h"
 #include "krm/platform/string.h"
 
 namespace krm::comparing {
 namespace {
 
-using Map = CKRMMap<CKRMString, CKRMString>;
+using exchange::AppendNumber;
+using exchange::TextMap;
 
 /// The length of the character in front of `text`; 0 where it isn't UTF-8, and for control characters and line ends, which
 /// would break the line on a terminal.
@@ -21,12 +21,11 @@ std::size_t PrintableLength(std::string_view text) {
     }
     const std::string_view character = text.substr(0, lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4);
     const bool breaksLine = character < "\xC2\xA0" || character == "\xE2\x80\xA8" || character == "\xE2\x80\xA9";
-    return json::IsUtf8(character) && !breaksLine ? character.size() : 0;
+    return exchange::IsUtf8(character) && !breaksLine ? character.size() : 0;
 }
 
 constexpr std::string_view kEscaped = "\"\\\n\r\t";
 constexpr std::string_view kEscapes = "\"\\nrt";
-constexpr std::string_view kDigits = "0123456789ABCDEF";
 
 /// Between brackets, with commas.
 class Sequence {
@@ -49,7 +48,6 @@ void AppendQuoted(std::string_view text, std::string& out) {
     out += '"';
     while (!text.empty()) {
         const std::size_t length = PrintableLength(text);
-        const auto byte = static_cast<unsigned char>(text.front());
         if (const std::size_t escape = kEscaped.find(text.front()); escape != std::string_view::npos) {
             out += '\\';
             out += kEscapes[escape];
@@ -57,8 +55,7 @@ void AppendQuoted(std::string_view text, std::string& out) {
             out += text.substr(0, length);
         } else {
             out += "\\x";
-            out += kDigits[byte >> 4U];
-            out += kDigits[byte & 15U];
+            exchange::AppendByte(text.front(), out);
         }
         text.remove_prefix(length != 0 ? length : 1);
     }
@@ -91,6 +88,7 @@ std::optional<std::string> TakeQuoted(std::string_view& quoted) {
         if (i + 2 >= quoted.size() || quoted[i] != 'x') {
             return std::nullopt;
         }
+        constexpr std::string_view kDigits = core::kUpperCase;
         const std::size_t high = kDigits.find(quoted[i + 1]);
         const std::size_t low = kDigits.find(quoted[i + 2]);
         if (high == std::string_view::npos || low == std::string_view::npos) {
@@ -150,7 +148,7 @@ void AppendValue(ConstValue value, const Rules* rules, std::string& out) {
         }
         case ValueKind::Map: {
             Sequence entries('{', out);
-            for (const auto& [key, text] : *value.As<Map>()) {
+            for (const auto& [key, text] : *value.As<TextMap>()) {
                 if (!IgnoresEntry(rules, View(key))) {
                     entries.Next();
                     AppendQuoted(View(key), out);

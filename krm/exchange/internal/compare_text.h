@@ -2,7 +2,6 @@
 #ifndef KRM_EXCHANGE_INTERNAL_COMPARE_TEXT_H_
 #define KRM_EXCHANGE_INTERNAL_COMPARE_TEXT_H_
 
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,13 +22,6 @@ std::optional<std::string> TakeQuoted(std::string_view& quoted);
 
 /// Appends the value, without what `rules`, which may be null, ignore.
 void AppendValue(ConstValue value, const Rules* rules, std::string& out);
-
-/// Appends a number that std::to_chars takes.
-template <class Number>
-void AppendNumber(Number number, std::string& out) {
-    char digits[32];
-    out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
-}
 
 /// What a type is called: a class's name, or what kind of value it is.
 std::string NameOfType(const TypeDescription& type);

@@ -1,4 +1,4 @@
-// What writing, reading and the schema of JSON documents share: the names in them, and what counts as UTF-8.
+// What writing, reading and the schema of JSON documents share: the names in them, and the limits of integers.
 #ifndef KRM_EXCHANGE_INTERNAL_JSON_FORM_H_
 #define KRM_EXCHANGE_INTERNAL_JSON_FORM_H_
 
@@ -36,34 +36,6 @@ inline constexpr std::uint64_t kPositiveInfinity = 0x7FF0000000000000U;
 inline constexpr std::uint64_t kSign = 0x8000000000000000U;
 inline constexpr std::string_view kInfinity = "Infinity";
 inline constexpr std::string_view kMinusInfinity = "-Infinity";
-
-/// Whether `text` is UTF-8 as Unicode defines it: no surrogates, no longer forms than needed, nothing above U+10FFFF.
-inline bool IsUtf8(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    for (std::size_t i = 0; i < text.size();) {
-        const unsigned first = byte(i++);
-        if (first < 0x80) {
-            continue;
-        }
-        const std::size_t more = first < 0xC2 ? 0 : first < 0xE0 ? 1 : first < 0xF0 ? 2 : first < 0xF5 ? 3 : 0;
-        if (more == 0 || more > text.size() - i) {
-            return false;
-        }
-        // Of the second byte alone the first one may ask for more than that it continues.
-        const unsigned lowest = first == 0xE0 ? 0xA0 : first == 0xF0 ? 0x90 : 0x80;
-        const unsigned highest = first == 0xED ? 0x9F : first == 0xF4 ? 0x8F : 0xBF;
-        if (byte(i) < lowest || byte(i) > highest) {
-            return false;
-        }
-        for (std::size_t j = 1; j < more; ++j) {
-            if ((byte(i + j) & 0xC0U) != 0x80) {
-                return false;
-            }
-        }
-        i += more;
-    }
-    return true;
-}
 
 /// What an integer's type holds.
 struct Range {
