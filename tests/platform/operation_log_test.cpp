@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdarg>
+#include <cstddef>
 #include <string>
 #include <type_traits>
 
@@ -56,6 +58,53 @@ TEST(OperationLogTest, AMegabyteArrivesWhole) {
     const krm::test::LogCapture log;
     KRMC_ER_WriteOperationLog(large.data(), static_cast<krm_ulong>(large.size()), 4, 2);
     EXPECT_THAT(log.Texts(), ElementsAre(large));
+}
+
+krm_long FormatLog(const char* format, ...) {
+    std::va_list arguments;
+    va_start(arguments, format);
+    const krm_long result = KRMC_ER_FormatOperationLog(format, arguments, 4, 2);
+    va_end(arguments);
+    return result;
+}
+
+TEST(OperationLogTest, AFormattedLineIsWrittenLikeAnyOther) {
+    {
+        const krm::test::LogCapture log;
+        FormatLog("%s.m_ulEcuId=%d", "Data[3]", -2);
+        FormatLog("100%%");
+        FormatLog(nullptr);
+        EXPECT_THAT(log.Texts(), ElementsAre("Data[3].m_ulEcuId=-2", "100%", ""));
+        EXPECT_EQ(log.Lines()[0].length, 20U);
+        EXPECT_EQ(log.Lines()[0].first, 4);
+        EXPECT_EQ(log.Lines()[0].second, 2);
+    }
+    KRMC_ER_SetOperationLogSink(&Refuse, nullptr);
+    EXPECT_EQ(FormatLog("%d", 1), -7);
+    KRMC_ER_SetOperationLogSink(nullptr, nullptr);
+}
+
+// Lines of usual length are formatted on the stack. Whichever way a line takes, it is whole and ends with a NUL.
+TEST(OperationLogTest, AFormattedLineOfAnyLengthArrivesWhole) {
+    static std::size_t endsWithNul;
+    static std::string last;
+    endsWithNul = 0;
+    KRMC_ER_SetOperationLogSink(
+        [](void*, const char* text, krm_ulong length, int, int) -> krm_long {
+            last.assign(text, length);
+            endsWithNul += text[length] == '\0' ? 1 : 0;
+            return 0;
+        },
+        nullptr);
+    for (std::size_t length = 0; length <= 1100; ++length) {
+        const std::string text(length, 'w');
+        FormatLog("%s", text.c_str());
+        ASSERT_EQ(last, text);
+        FormatLog("%s%s=%d", text.c_str(), text.c_str(), 7);
+        ASSERT_EQ(last, text + text + "=7");
+    }
+    KRMC_ER_SetOperationLogSink(nullptr, nullptr);
+    EXPECT_EQ(endsWithNul, 2202U);
 }
 
 TEST(OperationLogTest, NullSinkRestoresStandardError) {

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 #include "krm/platform/internal/format.h"
 
@@ -66,7 +67,10 @@ void CKRMString::Format(const char* format, ...) {
 }
 
 void CKRMString::FormatV(const char* format, std::va_list arguments) {
-    krm::platform::AssignFormatted(m_text, OrEmpty(format), arguments);
+    // Not into this string: the arguments may be texts of it.
+    krm::platform::Output out;
+    krm::platform::AppendFormatted(out, OrEmpty(format), arguments);
+    out.AssignTo(m_text);
 }
 
 CKRMBaseAdaptationData::~CKRMBaseAdaptationData() = default;
@@ -117,6 +121,13 @@ struct {
 krm_long KRMC_ER_WriteOperationLog(const char* text, krm_ulong textLength, int first, int second) {
     return text == nullptr ? g_sink.write(g_sink.context, "", 0, first, second)
                            : g_sink.write(g_sink.context, text, textLength, first, second);
+}
+
+krm_long KRMC_ER_FormatOperationLog(const char* format, std::va_list arguments, int first, int second) {
+    krm::platform::Output out;
+    krm::platform::AppendFormatted(out, OrEmpty(format), arguments);
+    const std::string_view line = out.Text();
+    return KRMC_ER_WriteOperationLog(line.data(), static_cast<krm_ulong>(line.size()), first, second);
 }
 
 void KRMC_ER_SetOperationLogSink(KRMC_ER_OperationLogSink sink, void* context) {

@@ -179,6 +179,12 @@ using KRMC_ER_OperationLogSink = krm_long (*)(void* context, const char* text, k
 /// Hands one line to the sink and returns the sink's result. A null text counts as an empty one.
 KRM_PLATFORM_API krm_long KRMC_ER_WriteOperationLog(const char* text, krm_ulong textLength, int first, int second);
 
+/// Hands a line to KRMC_ER_WriteOperationLog that CKRMString::FormatV would make of `format` and the arguments, which are used
+/// up. A line of usual length needs no block of memory on its way. A platform may leave this function out: its lines are
+/// then strings first.
+KRM_PLATFORM_API krm_long KRMC_ER_FormatOperationLog(const char* format, std::va_list arguments, int first, int second)
+    KRM_PRINTF_LIKE(1, 0);
+
 /// Replaces the sink; null restores the default, which writes each line to standard error. The sink serves the whole
 /// process: set it before other threads write, and let it do its own locking.
 KRM_PLATFORM_API void KRMC_ER_SetOperationLogSink(KRMC_ER_OperationLogSink sink, void* context);

@@ -9,46 +9,11 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-#include <utility>
 
 #include "krm/core/internal/digits.h"
 
 namespace krm::platform {
 namespace {
-
-/// What has been printed so far: on the stack while it is no longer than most lines, then in a string.
-class Output {
-public:
-    void Append(std::string_view text) {
-        if (text.size() > m_room.size() - m_length) {
-            m_spilled.append(m_room.data(), m_length);
-            m_length = 0;
-            if (text.size() > m_room.size()) {
-                m_spilled.append(text);
-                return;
-            }
-        }
-        m_length += text.copy(m_room.data() + m_length, text.size());
-    }
-    void Append(std::size_t count, char character) {
-        for (; count != 0; --count) {
-            Append({&character, 1});
-        }
-    }
-    void AssignTo(std::string& result) {
-        if (m_spilled.empty()) {
-            result.assign(m_room.data(), m_length);
-        } else {
-            m_spilled.append(m_room.data(), m_length);
-            result = std::move(m_spilled);
-        }
-    }
-
-private:
-    std::array<char, 512> m_room;
-    std::size_t m_length = 0;
-    std::string m_spilled;
-};
 
 /// One conversion specification, between its '%' and its letter.
 struct Conversion {
@@ -429,8 +394,7 @@ void AppendConversion(Output& out, const Conversion& conversion, Arguments& argu
 
 }  // namespace
 
-void AssignFormatted(std::string& result, const char* format, std::va_list arguments) {
-    Output out;
+void AppendFormatted(Output& out, const char* format, std::va_list arguments) {
     Arguments rest;
     va_copy(rest.list, arguments);
     const char* cursor = format;
@@ -459,7 +423,6 @@ void AssignFormatted(std::string& result, const char* format, std::va_list argum
         }
     }
     va_end(rest.list);
-    out.AssignTo(result);
 }
 
 }  // namespace krm::platform
