@@ -73,6 +73,33 @@ void CKRMString::FormatV(const char* format, std::va_list arguments) {
     out.AssignTo(m_text);
 }
 
+// Here and not in the header, where every source that includes it would compile the map's inside.
+
+void CKRMMap<CKRMString, CKRMString>::SetAt(const CKRMString& key, const CKRMString& value) {
+    m_entries.insert_or_assign(key, value);
+}
+
+bool CKRMMap<CKRMString, CKRMString>::Lookup(const CKRMString& key, CKRMString& value) const {
+    const const_iterator found = m_entries.find(key);
+    if (found == m_entries.end()) {
+        return false;
+    }
+    value = found->second;
+    return true;
+}
+
+CKRMString& CKRMMap<CKRMString, CKRMString>::operator[](const CKRMString& key) {
+    return m_entries[key];
+}
+
+bool CKRMMap<CKRMString, CKRMString>::RemoveKey(const CKRMString& key) {
+    return m_entries.erase(key) != 0;
+}
+
+void CKRMMap<CKRMString, CKRMString>::RemoveAll() {
+    m_entries.clear();
+}
+
 CKRMBaseAdaptationData::~CKRMBaseAdaptationData() = default;
 
 void CKRMBaseAdaptationData::Clear() {

@@ -70,7 +70,7 @@ class CKRMMap;
 
 /// Texts by text. Keys are compared as CKRMString::Compare does.
 template <>
-class CKRMMap<CKRMString, CKRMString> {
+class KRM_PLATFORM_API CKRMMap<CKRMString, CKRMString> {
     struct Before {
         bool operator()(const CKRMString& left, const CKRMString& right) const {
             return left.Compare(right.GetText()) < 0;
@@ -83,22 +83,15 @@ public:
     using const_iterator = Entries::const_iterator;  ///< of pairs
 
     /// Sets the value of `key`, adding the key where it is new.
-    void SetAt(const CKRMString& key, const CKRMString& value) { m_entries.insert_or_assign(key, value); }
+    void SetAt(const CKRMString& key, const CKRMString& value);
     /// Copies the value of `key` to `value` and returns true; returns false and leaves `value` alone without that key.
-    bool Lookup(const CKRMString& key, CKRMString& value) const {
-        const const_iterator found = m_entries.find(key);
-        if (found == m_entries.end()) {
-            return false;
-        }
-        value = found->second;
-        return true;
-    }
+    bool Lookup(const CKRMString& key, CKRMString& value) const;
     /// The value of `key`, added empty where it is new.
-    CKRMString& operator[](const CKRMString& key) { return m_entries[key]; }
+    CKRMString& operator[](const CKRMString& key);
     /// Removes `key`; false where it is not there.
-    bool RemoveKey(const CKRMString& key) { return m_entries.erase(key) != 0; }
+    bool RemoveKey(const CKRMString& key);
     /// Removes all keys with their values.
-    void RemoveAll() { m_entries.clear(); }
+    void RemoveAll();
     /// The number of keys.
     int GetCount() const { return static_cast<int>(m_entries.size()); }
     /// Whether there is no key.
