@@ -164,7 +164,8 @@ TEST_F(OutOfMemory, RecordsAndMessages) {
     EXPECT_EQ(FailEach([&] { const CKRMCCommandWordsData copy(words); }), 1);
     EXPECT_GE(FailEach([&] { const CKRMCGetDTCCmdAdaptDataRcv copy(message); }), 2);
     SetLogSink(&IgnoreLine, nullptr);
-    EXPECT_GT(FailEach([&] { words.ErrWriteOperationLogStructure("%s", kLong); }), 2);
+    const std::string prefix(1000, 'p');  // lines of usual length may need no memory of their own
+    EXPECT_GT(FailEach([&] { words.ErrWriteOperationLogStructure("%s", prefix.c_str()); }), 2);
     EXPECT_GT(FailEach([&] { message.ErrWriteOperationLog(); }), 2);
     SetLogSink(nullptr, nullptr);
     EXPECT_EQ(message.Data.GetCount(), 2);
