@@ -1,7 +1,6 @@
 #include "krm/tree/attribute.h"
 
 #include <new>
-#include <string>
 
 #include "krm/tree/internal/chain.h"
 #include "krm/tree/internal/operation.h"
@@ -47,10 +46,10 @@ CKRMCAttribute::~CKRMCAttribute() {
 }
 
 krm_ulong CKRMCAttribute::Description(CKRMString& out) {
-    std::string text;
+    DescriptionWriter text(out);
     Chain::AppendAttribute(*this, text);  // this one in any case: a derived class calls its base's
     CKRMCNode* const other = Chain::AppendAttributes(m_pcNext, text);
-    out += text.c_str();
+    text.Flush();
     return other != nullptr ? other->Description(out) : 0;
 }
 

@@ -1,12 +1,14 @@
 #include "krm/tree/element.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <type_traits>
 #include <vector>
 
 #include "gmock/gmock.h"
 #include "gtest/gtest.h"
+#include "krm/tree/attribute.h"
 #include "krm/tree/element_group.h"
 #include "tests/support/failing_allocation.h"
 #include "tests/support/not_under.h"
@@ -530,6 +532,27 @@ public:
         return kResult;
     }
 };
+
+// Texts are collected in pieces of some thousand characters. Wherever a piece ends, and however long a single text is, none
+// is cut, lost or out of its place.
+TEST(ElementDescription, WritesTextsOfAnyLength) {
+    for (const std::size_t length : {0U, 100U, 2000U, 4000U, 5000U, 100'000U}) {
+        for (std::size_t more = 0; more < 128; ++more) {
+            const std::string text(length + more, 't');
+            const std::string name(more, 'n');
+            CKRMCElement element(name.c_str());
+            ASSERT_TRUE(element.CreateAttribute(nullptr, "Text")->SetValue(nullptr, text.c_str()));
+            ASSERT_TRUE(element.CreateAttribute(nullptr, text.c_str())->SetValue(nullptr, krm_ulong{4294967295U}));
+            ASSERT_TRUE(element.CreateAttribute(nullptr, "Real")->SetValue(nullptr, 0.5));
+            element.CreateElement(nullptr, "Child");
+            CKRMString description;
+            element.Description(description);
+            ASSERT_EQ(description.GetText(), "<" + name + " Text[1]=\"" + text + "\" " + text +
+                                                 "[4]=\"4294967295\" Real[2]=\"0.500000\">\n<Child>\n</Child>\n</" +
+                                                 name + ">\n");
+        }
+    }
+}
 
 TEST(ElementDescription, CallsOverridingNodesAnywhere) {
     OwnElement root("R");

@@ -1,43 +1,15 @@
 #include "krm/tree/internal/chain.h"
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
-#include <string>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
-#include "krm/core/internal/digits.h"
 #include "krm/tree/attribute.h"
 #include "krm/tree/element.h"
 #include "krm/tree/element_group.h"
 
 namespace krm::tree {
-
-namespace {
-
-template <class Integer>
-void AppendNumber(std::string& out, Integer number) {
-    std::array<char, core::kDecimalRoom<Integer>> digits;
-    out.append(digits.data(), core::WriteDecimal(digits.data(), number));
-}
-
-void AppendAddress(std::string& out, const void* address) {
-    constexpr std::size_t kDigits = 8;
-    std::array<char, kDigits> digits;
-    const auto low32 = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(address));
-    out += "0x";
-    out.append(digits.data(), core::WriteHexadecimal(digits.data(), low32, core::kUpperCase, kDigits));
-}
-
-void AppendNumber(std::string& out, double number) {
-    CKRMString text;
-    text.Format("%lf", number);
-    out += text.GetText();
-}
-
-}  // namespace
 
 /// Unlinks a chain that `node` owns and returns its head; null when there is none, or when the node's own destructor is
 /// to do it.
@@ -129,39 +101,42 @@ void Chain::Destroy(CKRMCNode* node) {
     }
 }
 
-void Chain::AppendAttribute(const CKRMCAttribute& attribute, std::string& out) {
-    out += ' ';
-    out += attribute.GetName();
-    out += '[';
-    AppendNumber(out, static_cast<int>(attribute.m_ulValueType));
-    out += "]=\"";
-    if (attribute.m_pValue == nullptr) {
-        out += "NULL";
+void Chain::AppendAttribute(const CKRMCAttribute& attribute, DescriptionWriter& out) {
+    out.Append(" ", attribute.m_strName, "[");
+    out.AppendNumber(static_cast<int>(attribute.m_ulValueType));
+    out.Append("]=\"");
+    const void* const value = attribute.m_pValue;
+    if (value == nullptr) {
+        out.Append("NULL");
     } else {
         switch (attribute.m_ulValueType) {
             case kStringValue:
-                out += attribute.GetString();
+                out.Append(*static_cast<const CKRMString*>(value));
                 break;
-            case kDoubleValue:
-                AppendNumber(out, attribute.GetDouble());
+            case kDoubleValue: {
+                CKRMString text;
+                text.Format("%lf", attribute.GetDouble());
+                out.Append(text);
                 break;
+            }
             case kLongValue:
-                AppendNumber(out, attribute.GetLong());
+                out.AppendNumber(attribute.GetLong());
                 break;
             case kULongValue:
-                AppendNumber(out, attribute.GetULong());
+                out.AppendNumber(attribute.GetULong());
                 break;
             default:
-                AppendAddress(out, attribute.m_pValue);
+                out.Append("0x");
+                out.AppendHexadecimal(reinterpret_cast<std::uintptr_t>(value));
                 break;
         }
     }
-    out += '"';
+    out.Append("\"");
 }
 
 // Each sibling is to describe its followers inside its own call. As long as that is the very operation of this class, it
 // is the same thing without a stack as long as the chain.
-CKRMCNode* Chain::AppendAttributes(CKRMCNode* node, std::string& out) {
+CKRMCNode* Chain::AppendAttributes(CKRMCNode* node, DescriptionWriter& out) {
     while (const CKRMCAttribute* const attribute = ExactlyA<CKRMCAttribute>(node)) {
         AppendAttribute(*attribute, out);
         node = attribute->m_pcNext;
@@ -169,23 +144,20 @@ CKRMCNode* Chain::AppendAttributes(CKRMCNode* node, std::string& out) {
     return node;
 }
 
-/// Writes elements and groups with an explicit stack of those that are open.
-///
-/// The text is collected and appended to the caller's string in larger pieces: every piece of a tag by itself would cost
-/// more than its copying. What describes itself gets the string with all that stands before it.
+/// Writes elements and groups with an explicit stack of those that are open. What describes itself gets the string with all
+/// that stands before it.
 class Chain::Describer {
 public:
-    explicit Describer(CKRMString& out) : m_out(out) {}
+    explicit Describer(CKRMString& out) : m_out(out), m_text(out) {}
 
     void Open(CKRMCElement& element) {
         m_result = 0;
-        m_text += '<';
-        m_text += element.GetName();
+        m_text.Append("<", element.m_strName);
         if (CKRMCNode* const other = AppendAttributes(element.m_pcFirstAttribute, m_text)) {
-            Flush();
+            m_text.Flush();
             m_result = other->Description(m_out);
         }
-        m_text += ">\n";
+        m_text.Append(">\n");
         m_open.push_back({&element, true});
         m_node = element.m_pcFirstGroup;
     }
@@ -205,12 +177,12 @@ public:
             } else if (CKRMCElementGroup* const group = ExactlyA<CKRMCElementGroup>(m_node)) {
                 Open(*group);
             } else {
-                Flush();
+                m_text.Flush();
                 m_result = m_node->Description(m_out);  // its followers are its own business
                 m_node = nullptr;
             }
         }
-        Flush();
+        m_text.Flush();
         return m_result;
     }
 
@@ -224,25 +196,13 @@ private:
         const Holder closed = m_open.back();
         m_open.pop_back();
         if (closed.isElement) {
-            m_text += "</";
-            m_text += closed.node->GetName();
-            m_text += ">\n";
-            if (m_text.size() >= kPiece) {
-                Flush();
-            }
+            m_text.Append("</", closed.node->m_strName, ">\n");
         }
         m_node = closed.node->m_pcNext;
     }
 
-    void Flush() {
-        m_out += m_text.c_str();
-        m_text.clear();
-    }
-
-    static constexpr std::size_t kPiece = 4096;
-
     CKRMString& m_out;
-    std::string m_text;  // what is not yet in m_out
+    DescriptionWriter m_text;  // writes into m_out
     std::vector<Holder> m_open;
     CKRMCNode* m_node = nullptr;  // the next to describe; null at the end of a chain
     krm_ulong m_result = 0;       // of the last description in the order of the text

@@ -2,10 +2,12 @@
 #ifndef KRM_TREE_INTERNAL_CHAIN_H_
 #define KRM_TREE_INTERNAL_CHAIN_H_
 
+#include <cstddef>
+#include <cstring>
 #include <new>
-#include <string>
 #include <typeinfo>
 
+#include "krm/tree/internal/description_writer.h"
 #include "krm/tree/internal/operation.h"
 #include "krm/tree/node.h"
 
@@ -41,8 +43,10 @@ struct Chain {
     /// The first node of that name, or null. A name that is not there is no failure.
     template <class T>
     static T* Find(T* head, const char* name) {
+        const std::size_t length = std::strlen(name);
         T* node = head;
-        while (node != nullptr && node->m_strName.Compare(name) != 0) {
+        // Names of different lengths differ, which is cheaper to see than to compare them.
+        while (node != nullptr && (node->m_strName.GetLength() != length || node->m_strName.Compare(name) != 0)) {
             node = static_cast<T*>(node->m_pcNext);
         }
         return node;
@@ -116,10 +120,10 @@ struct Chain {
     static void Destroy(CKRMCNode* node);
 
     /// Appends the text of `attribute` alone.
-    static void AppendAttribute(const CKRMCAttribute& attribute, std::string& out);
+    static void AppendAttribute(const CKRMCAttribute& attribute, DescriptionWriter& out);
     /// Appends the texts from `node` on, which may be null, as long as these are attributes of no derived class. Returns
     /// the first that isn't, which describes itself and all after it; null at the end of the chain.
-    static CKRMCNode* AppendAttributes(CKRMCNode* node, std::string& out);
+    static CKRMCNode* AppendAttributes(CKRMCNode* node, DescriptionWriter& out);
 
     /// Describes `element` or `group` as its class does it, then its followers.
     static krm_ulong Describe(CKRMCElement& element, CKRMString& out);
