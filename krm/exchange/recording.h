@@ -50,6 +50,11 @@
 
 namespace krm {
 
+namespace recording {
+class Reader;
+class Writer;
+}  // namespace recording
+
 /// When a message was written: UTC, in microseconds, which every platform's clock can be rounded to.
 using RecordedTime = std::chrono::sys_time<std::chrono::microseconds>;
 
@@ -104,7 +109,8 @@ enum class RecordingMode {
     Append      ///< goes on with a recording, or begins one; what isn't a recording stays as it is, and is an error
 };
 
-/// Writes a recording. Any number of threads may call it at the same time: lines are whole, and their times in order.
+/// Writes a recording. Any number of threads may call it at the same time: lines are whole, and in the order of their times
+/// as far as the clock runs forward.
 ///
 /// What fails is a result, and no exception but std::bad_alloc, or what a sink or a clock throws. The exchange may go on:
 /// each Write tries again, so where a full disk has room again, a recording lacks what came meanwhile and nothing else.
@@ -115,8 +121,8 @@ public:
     /// Takes bytes and returns how many of them it took; fewer than all is an error. One call per line, its end included.
     using Sink = std::function<std::size_t(std::string_view bytes)>;
 
-    /// Records into a file, which others may read meanwhile. When it is not a regular file, each line still arrives whole.
-    /// Its folder must be there. Appending goes through the file once, to count its exchanges on.
+    /// Records into a file, which others may read meanwhile. Its folder must be there. Appending goes through the file once,
+    /// to count its exchanges on.
     explicit Recorder(const std::filesystem::path& file, RecordingMode mode = RecordingMode::CreateNew,
                       Clock now = &std::chrono::system_clock::now);
     /// Records into a sink, which is called now, for the first line, and then by Write, by one thread at a time. It must not
@@ -130,8 +136,8 @@ public:
     /// are. Empty as long as nothing failed.
     std::string Error() const;
 
-    /// A number for an exchange: one more than the highest that this recorder gave, wrote or found in the file that it
-    /// appends to. The first one is 1.
+    /// A number for an exchange: one more than the highest that this recorder gave, was given or found in the file
+    /// that it appends to. The first one is 1.
     std::uint64_t BeginExchange();
 
     /// Writes a message of `exchange`, whose request and answer have the same number. `description` is that of its class,
@@ -152,8 +158,7 @@ public:
     RecordingResult Write(const RecordedMessage& recorded);
 
 private:
-    struct State;
-    std::unique_ptr<State> m_state;
+    std::unique_ptr<recording::Writer> m_writer;
 };
 
 /// The longest line of a recording that is read, in bytes.
@@ -191,8 +196,7 @@ public:
     std::optional<RecordedMessage> Next();
 
 private:
-    struct State;
-    std::unique_ptr<State> m_state;
+    std::unique_ptr<recording::Reader> m_reader;
 };
 
 }  // namespace krm
