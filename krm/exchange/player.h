@@ -35,6 +35,10 @@
 
 namespace krm {
 
+namespace playing {
+class Index;
+}
+
 /// How to answer.
 struct PlayerOptions {
     /// What a request gets whose equals have all been answered.
@@ -74,7 +78,7 @@ struct PlayedAnswer {
 /// the first. Requests are equal where krm::Compare, with `leaveOut` as its patterns to ignore, finds no difference. An
 /// answer belongs to the last request before it with the same number of the exchange.
 ///
-/// It holds about a hundred bytes per exchange; answers are read when they are asked for. The effort grows with the file to
+/// It holds one to two hundred bytes per exchange; answers are read when they are asked for. The effort grows with the file to
 /// begin with, and for each request with what it and its answer hold. Several threads may use it at the same time.
 class KRM_EXCHANGE_API Player {
 public:
@@ -110,7 +114,7 @@ public:
     ///   like the others, but isn't the one that comes again;
     /// - where the answer can't be read.
     ///
-    /// Throws std::bad_alloc alone.
+    /// Throws std::bad_alloc, and what the stream throws, alone.
     PlayedAnswer Answer(const CKRMBaseAdaptationData& request);
 
     /// The same, copied into an answer that is there already. Returns the error, also where the recorded answer is of another
@@ -128,8 +132,7 @@ public:
     }
 
 private:
-    struct State;
-    std::unique_ptr<State> m_state;
+    std::unique_ptr<playing::Index> m_index;
 };
 
 }  // namespace krm
