@@ -20,8 +20,8 @@
 #include "krm/exchange/internal/text.h"
 #include "krm/platform/string.h"
 
+// Nothing here is in a nameless namespace but functions: Index holds the types, and a unity build would warn of that.
 namespace krm::playing {
-namespace {
 
 /// Stands for a request's class and content: equal requests have equal ones, and that others have too is as good as
 /// impossible.
@@ -141,6 +141,8 @@ struct Group {
     std::uint32_t turn = kNone;   // the exchange that is played next
     std::uint32_t again = kNone;  // the last one that was played and has an answer
 };
+
+namespace {
 
 /// `text` as far as it is worth reading within a line of others.
 std::string Shortened(std::string text) {
