@@ -162,20 +162,27 @@ void WriteMember(std::string_view name, std::string_view text, std::string& out)
 
 }  // namespace
 
-std::string ToJson(const CKRMBaseAdaptationData& message, const MessageDescription& description) {
+bool json::WriteDocument(const CKRMBaseAdaptationData& message, const MessageDescription& description,
+                         std::string& out) {
     const std::optional<ConstValue> content = description.ContentOf(message);
-    std::string out;
-    if (content) {
-        out += '{';
-        WriteMember(json::kCommand, description.command, out);
-        WriteMember(json::kFamily, FamilyWordOf(description.family), out);
-        WriteMember(json::kDirection, json::NameOf(description.direction), out);
-        out += '"';
-        out += json::kContent;
-        out += "\":";
-        WriteValue(*content, out);
-        out += '}';
+    if (!content) {
+        return false;
     }
+    out += '{';
+    WriteMember(json::kCommand, description.command, out);
+    WriteMember(json::kFamily, FamilyWordOf(description.family), out);
+    WriteMember(json::kDirection, json::NameOf(description.direction), out);
+    out += '"';
+    out += json::kContent;
+    out += "\":";
+    WriteValue(*content, out);
+    out += '}';
+    return true;
+}
+
+std::string ToJson(const CKRMBaseAdaptationData& message, const MessageDescription& description) {
+    std::string out;
+    json::WriteDocument(message, description, out);
     return out;
 }
 

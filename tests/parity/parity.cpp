@@ -1,11 +1,16 @@
-// Writes the results of 100,000 conversions and the dump of every record and message to a text. Builds for every platform
-// must write the same bytes: `./dev parity` compares them.
+// Writes the results of 100,000 conversions, the dump of every record and message, and where krm::exchange is built (for
+// which the build defines KRM_PARITY_JSON) the JSON of every message to a text. Builds for every platform must write the same
+// bytes: `./dev parity` compares them.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <string>
+#include <type_traits>
 
 #include "krm/adaptation_data.h"
+#ifdef KRM_PARITY_JSON
+#include "krm/exchange/json.h"
+#endif
 #include "krm/fields/all_fields.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/fields.h"
@@ -24,7 +29,7 @@ krm_long WriteLogLine(void*, const char* text, krm_ulong length, int first, int 
     return 0;
 }
 
-/// A filled object of `Class`: all that it holds, then its dump where it has one.
+/// A filled object of `Class`: all that it holds, then its dump where it has one, then its JSON where that has one.
 template <class Class>
 void WriteObject(const char* name, std::uint32_t seedValue) {
     Seed seed(seedValue);
@@ -36,6 +41,11 @@ void WriteObject(const char* name, std::uint32_t seedValue) {
     } else if constexpr (requires { object.ErrWriteOperationLog(); }) {
         object.ErrWriteOperationLog();
     }
+#ifdef KRM_PARITY_JSON
+    if constexpr (std::is_base_of_v<CKRMBaseAdaptationData, Class>) {
+        std::fprintf(g_out, "%s\n", krm::ToJson(object).c_str());
+    }
+#endif
 }
 
 /// Values that a conversion treats apart come often.

@@ -271,8 +271,7 @@ public:
             return std::optional<std::string>();
         };
         // It would be the value itself, all of it: rather a slip.
-        return In("ignored path ", pattern,
-                  pattern.empty() ? std::optional<std::string>("is empty") : At(pattern, ignore));
+        return pattern.empty() ? std::optional<std::string>("is empty") : At(pattern, ignore);
     }
 
     std::optional<std::string> MatchBy(const ListKey& key) const {
@@ -314,12 +313,13 @@ public:
         return In("key of ", key.list, At(key.list, set));
     }
 
-private:
+    /// The same, naming the option.
     static std::optional<std::string> In(std::string_view what, const std::string& pattern,
                                          std::optional<std::string> error) {
         return error ? std::optional(std::string(what) + Quoted(pattern) + ": " + *error) : std::nullopt;
     }
 
+private:
     const TypeDescription* m_type;
     Rules* m_rules;
     bool m_mayMiss;
@@ -350,7 +350,7 @@ bool IgnoresEntry(const Rules* rules, std::string_view key) {
 std::optional<std::string> Add(const CompareOptions& options, const TypeDescription& type, Rules& rules) {
     const Addition addition(type, rules, options.forOtherClassesToo);
     for (const std::string& pattern : options.ignore) {
-        if (std::optional<std::string> error = addition.Ignore(pattern)) {
+        if (std::optional<std::string> error = Addition::In("ignored path ", pattern, addition.Ignore(pattern))) {
             return error;
         }
     }
@@ -360,6 +360,11 @@ std::optional<std::string> Add(const CompareOptions& options, const TypeDescript
         }
     }
     return std::nullopt;
+}
+
+std::optional<std::string> AddIgnored(const std::string& pattern, const TypeDescription& type, Rules& rules,
+                                      bool mayMiss) {
+    return Addition(type, rules, mayMiss).Ignore(pattern);
 }
 
 }  // namespace krm::comparing

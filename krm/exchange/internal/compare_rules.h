@@ -51,6 +51,11 @@ inline bool Ignores(const Rules* rules) {
 /// Adds to `rules`, which are those of a value of this type, what `options` says. Returns what is wrong with the options.
 std::optional<std::string> Add(const CompareOptions& options, const TypeDescription& type, Rules& rules);
 
+/// Adds to `rules`, which are those of a value of this type, that what `pattern` names is ignored. Returns what is wrong with
+/// the pattern; that the type doesn't have it is left aside where it `mayMiss`.
+std::optional<std::string> AddIgnored(const std::string& pattern, const TypeDescription& type, Rules& rules,
+                                      bool mayMiss);
+
 }  // namespace krm::comparing
 
 #endif  // KRM_EXCHANGE_INTERNAL_COMPARE_RULES_H_

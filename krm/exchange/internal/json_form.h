@@ -52,6 +52,9 @@ inline Range RangeOf(const TypeDescription& integer) {
 /// Appends `text` as a JSON string. REQUIRES: it is UTF-8.
 void WriteString(std::string_view text, std::string& out);
 
+/// Appends what ToJson gives; false, and nothing is appended, where the message carries another type or ID.
+bool WriteDocument(const CKRMBaseAdaptationData& message, const MessageDescription& description, std::string& out);
+
 }  // namespace krm::json
 
 #endif  // KRM_EXCHANGE_INTERNAL_JSON_FORM_H_
