@@ -52,11 +52,14 @@ struct RedactOptions {
     /// The VIN: what the field `m_strVinCode` holds, and whatever looks like one, in a text, as hexadecimal or as numbers:
     /// 17 letters and digits with nothing of the kind around them, a letter among them, no I, O or Q, the last four digits.
     bool vin = true;
-    /// Patterns of fields, in Compare's notation (krm/exchange/compare.h): `m_cVehicleInfoList[*].m_strVehicleInfo`. All beneath a record, a
-    /// list or a map goes with it, keys too; `m_cResourceMap["owner"]` and `m_cResourceMap[*]` are texts without their keys. What a text holds, without blanks around it, or a list of bytes, is a value, unless it is
-    /// shorter than kMinRedactedLength or all of its bytes are the same; it is then replaced in the field alone. So are
-    /// numbers, by others with as many digits, and doubles. A bool stays, and so do NaN and infinities.
-    /// A pattern that no message of the library has is an error, as it is mostly misspelled.
+    /// Patterns of fields, in Compare's notation (krm/exchange/compare.h): `m_cVehicleInfoList[*].m_strVehicleInfo`. All
+    /// beneath a record, a list or a map goes with it, keys too; `m_cResourceMap["owner"]` and `m_cResourceMap[*]` are texts
+    /// without their keys.
+    ///
+    /// What a text holds, without blanks around it, or a list of bytes, is a value, unless it is shorter than
+    /// kMinRedactedLength or all of its bytes are the same; it is then replaced in the field alone. So are numbers, by others
+    /// with as many digits, and doubles. A bool stays, and so do NaN and infinities. A pattern that no message of the library
+    /// has is an error, as it is mostly misspelled.
     std::vector<std::string> fields = {};
     /// Values, as bytes: a text with letters beyond ASCII in each encoding that it may have. One that is shorter than
     /// kMinRedactedLength is an error.
