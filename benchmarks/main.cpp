@@ -15,11 +15,13 @@ int main(int argc, char** argv) {
     krm::bench::RegisterConverters();
     krm::bench::RegisterMessages();
     krm::bench::RegisterJson();
+    krm::bench::RegisterRecordings();
     krm::bench::RegisterLists();
     krm::bench::RegisterTrees();
     krm::bench::RegisterMemory();
     krm::bench::RegisterSession();
     krm::bench::RegisterGrowth();
+    krm::bench::RegisterRecordingGrowth();
 
     benchmark::Initialize(&argc, argv);
     std::string file;

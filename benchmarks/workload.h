@@ -78,11 +78,13 @@ void Grow(const std::string& name, const Function& run, int from, int to);
 void RegisterConverters();
 void RegisterMessages();
 void RegisterJson();
+void RegisterRecordings();
 void RegisterLists();
 void RegisterTrees();
 void RegisterMemory();
 void RegisterSession();
 void RegisterGrowth();
+void RegisterRecordingGrowth();
 
 }  // namespace krm::bench
 

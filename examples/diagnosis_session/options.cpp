@@ -14,6 +14,14 @@ std::string NotStandardOutput(const std::string& text) {
     return text == "-" ? "needs a file; standard output has the report" : NotEmpty(text);
 }
 
+std::string IsBuiltIn(const std::string&) {
+#if defined(KRM_HAVE_EXCHANGE)
+    return "";
+#else
+    return "is not built in: the program was built without krm::exchange";
+#endif
+}
+
 }  // namespace
 
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
@@ -24,20 +32,36 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
     app.set_version_flag("--version", "diagnosis_session " KRM_VERSION, "Show the version");
     const CLI::Validator file(NotEmpty, "");
     const CLI::Validator outputFile(NotStandardOutput, "");
-    app.add_option("RECORDING", line.options.recording,
-                   "What candump -l wrote or candump printed, gzip or not; - is standard input; default: the example's")
-        ->type_name("")
-        ->check(file);
-    app.add_option("ITEMS", line.options.items, "JSON table of the values in the answers; default: the example's")
-        ->type_name("")
-        ->check(file);
+    const CLI::Validator builtIn(IsBuiltIn, "");
+    CLI::Option* const recording =
+        app.add_option(
+               "RECORDING", line.options.recording,
+               "What candump -l wrote or candump printed, gzip or not; - is standard input; default: the example's")
+            ->type_name("")
+            ->check(file);
+    CLI::Option* const items =
+        app.add_option("ITEMS", line.options.items, "JSON table of the values in the answers; default: the example's")
+            ->type_name("")
+            ->check(file);
     app.add_option("--operation-log", line.options.operationLog, "Write every message, a line for each of its fields")
         ->type_name("FILE")
         ->check(outputFile);
     app.add_option("--values", line.options.values, "Write every value as CSV")->type_name("FILE")->check(outputFile);
-    app.add_option("--units", line.options.units, "Show values in metric (default) or imperial units")
-        ->type_name("SYSTEM")
-        ->check(CLI::IsMember({"metric", "imperial"}));
+    CLI::Option* const units =
+        app.add_option("--units", line.options.units, "Show values in metric (default) or imperial units")
+            ->type_name("SYSTEM")
+            ->check(CLI::IsMember({"metric", "imperial"}));
+    CLI::Option* const record = app.add_option("--record", line.options.record,
+                                               "Write what application and engine say to each other, for --replay")
+                                    ->type_name("FILE")
+                                    ->check(outputFile)
+                                    ->check(builtIn);
+    app.add_option("--replay", line.options.replay,
+                   "Run the application on what --record wrote, without recording and items")
+        ->type_name("FILE")
+        ->check(file)
+        ->check(builtIn)
+        ->excludes(recording, items, units, record);
     app.add_flag("--json", line.options.json, "Write JSON instead of the report");
     app.footer(
         "Exit status: 0 all decoded; 1 parts of the input were bad (told on standard error, the rest is decoded), or\n"

@@ -13,7 +13,9 @@ struct Options {
     std::optional<std::string> items;
     std::optional<std::string> operationLog;
     std::optional<std::string> values;
-    std::string units;  ///< "metric", "imperial", or empty
+    std::optional<std::string> record;  ///< what application and engine say to each other goes there
+    std::optional<std::string> replay;  ///< such a file, instead of recording and items
+    std::string units;                  ///< "metric", "imperial", or empty
     bool json = false;
 };
 

@@ -5,9 +5,12 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
+#include <memory>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 #include "application.h"
 #include "complaints.h"
@@ -18,6 +21,7 @@
 #include "operation_log_file.h"
 #include "options.h"
 #include "progress.h"
+#include "recorded_session.h"
 #include "recording_file.h"
 #include "report.h"
 #include "values_file.h"
@@ -62,14 +66,24 @@ bool IsSameFile(const std::string& left, const std::string& right) {
     return left == right || std::filesystem::equivalent(left, right, error);
 }
 
-void CheckOutputs(const Options& options, const std::string& recording, const std::string& items) {
-    for (const std::optional<std::string>& output : {options.operationLog, options.values}) {
-        if (output && (IsSameFile(*output, recording) || IsSameFile(*output, items))) {
-            throw FileError(*output + ": is an input; it will not be overwritten");
+void CheckOutputs(const Options& options, const std::vector<std::string>& inputs) {
+    const struct {
+        const std::optional<std::string>& path;
+        const char* what;
+    } outputs[] = {{options.operationLog, "operation log"}, {options.values, "values"}, {options.record, "recording"}};
+    for (const auto& output : outputs) {
+        for (const std::string& input : inputs) {
+            if (output.path && IsSameFile(*output.path, input)) {
+                throw FileError(*output.path + ": is an input; it will not be overwritten");
+            }
         }
     }
-    if (options.operationLog && options.values && IsSameFile(*options.operationLog, *options.values)) {
-        throw FileError(*options.values + ": can't be both operation log and values");
+    for (std::size_t i = 0; i < std::size(outputs); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (outputs[i].path && outputs[j].path && IsSameFile(*outputs[j].path, *outputs[i].path)) {
+                throw FileError(*outputs[i].path + ": can't be both " + outputs[j].what + " and " + outputs[i].what);
+            }
+        }
     }
 }
 
@@ -87,22 +101,88 @@ std::string Amount(std::uint64_t number, const char* what) {
     return " (" + std::to_string(number) + ' ' + what + (number == 1 ? ")" : "s)");
 }
 
+/// What the session writes beside the report.
+class OutputFiles {
+public:
+    explicit OutputFiles(const Options& options) {
+        if (options.operationLog) {
+            log.emplace(*options.operationLog);
+        }
+        if (options.values) {
+            values.emplace(*options.values);
+        }
+    }
+
+    /// Ends them, and says in `summary` what they hold.
+    void Close(const Options& options, SessionSummary& summary) {
+        if (values) {
+            values->Close();
+            summary.written.push_back("values " + *options.values + Amount(values->RowCount(), "row"));
+        }
+        if (log) {
+            log->Close();
+            summary.written.push_back("operation log " + *options.operationLog + Amount(log->LineCount(), "line"));
+        }
+    }
+
+    std::optional<OperationLogFile> log;
+    std::optional<ValuesFile> values;
+};
+
+/// The application's session with an engine, and its outputs. `atEnd` adds to the summary before they are ended.
+SessionSummary RunApplication(const Options& options, Engine& engine, const SessionStart& start, TextStream& text,
+                              OutputFiles& files, std::function<bool(std::uint64_t)> goOn,
+                              const std::function<void(SessionSummary&)>& atEnd) {
+    std::unique_ptr<Output> report;
+    if (options.json) {
+        report = std::make_unique<JsonOutput>(text);
+    } else {
+        report = std::make_unique<Report>(text, start.longestName);
+    }
+    Application::Settings settings;
+    settings.recording.file = start.file;
+    settings.recording.isEmpty = start.isEmpty;
+    settings.units = start.units;
+    settings.log = files.log ? &*files.log : nullptr;
+    settings.outputs = {report.get()};
+    if (files.values) {
+        settings.outputs.push_back(&*files.values);
+    }
+    settings.goOn = std::move(goOn);
+    if (files.log && start.first != kNoTime) {
+        files.log->SetTime(start.first);
+    }
+    SessionSummary summary = Application(engine, std::move(settings)).Run();
+    atEnd(summary);
+    files.Close(options, summary);
+    report->End(summary);
+    return summary;
+}
+
+bool IsInterrupted(const Surroundings& surroundings) {
+    return surroundings.interrupt != nullptr && *surroundings.interrupt != 0;
+}
+
+/// What the session comes to; throws FileError where the input broke off.
+int StatusOf(const SessionSummary& summary, const std::string& breakOff, std::ostream& err) {
+    if (summary.interrupted) {
+        err << "diagnosis_session: interrupted; what was decoded until then is there\n";
+    }
+    if (!breakOff.empty()) {
+        throw FileError(breakOff + "; what was decoded until then is there");
+    }
+    return summary.faults == 0 && !summary.interrupted ? kGood : kBadInput;
+}
+
 /// Everything that the options ask for, over a recording that is open.
 int Run(const Options& options, const std::string& program, std::ostream& out, std::ostream& err,
         const Surroundings& surroundings) {
     const std::string recordingPath = options.recording.value_or(OwnFile(program, "session.log"));
     const std::string itemsPath = options.items.value_or(OwnFile(program, "session.items.json"));
-    CheckOutputs(options, recordingPath, itemsPath);
+    CheckOutputs(options, {recordingPath, itemsPath});
     RecordingFile file(recordingPath);
     const std::string itemsText = ReadWholeFile(itemsPath);
-    std::optional<OperationLogFile> log;
-    std::optional<ValuesFile> values;
-    if (options.operationLog) {
-        log.emplace(*options.operationLog);
-    }
-    if (options.values) {
-        values.emplace(*options.values);
-    }
+    OutputFiles files(options);
 
     Progress progress(err);
     TextStream text(out, "standard output");
@@ -116,7 +196,7 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
     auto shown = std::chrono::steady_clock::now();
     unsigned untilNext = 0;
     const auto goOn = [&](std::uint64_t exchanges) {
-        if (surroundings.interrupt != nullptr && *surroundings.interrupt != 0) {
+        if (IsInterrupted(surroundings)) {
             return false;
         }
         // Asking for the time costs as much as a short exchange.
@@ -151,6 +231,7 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
     };
     DiagnosisEngine engine(
         table, [&] { return reader->Next(); }, [&] { return reader->Totals(); }, complain);
+    SessionStart start;
     bool interrupted = false;
     if (file.CanRewind()) {
         progress.Begin("surveying");
@@ -164,54 +245,63 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
         if (!breakOff.empty() && reader->Totals().frames == 0) {
             throw FileError(breakOff);
         }
-        if (log) {
-            log->SetTime(reader->Totals().first);
-        }
+        start.first = reader->Totals().first;
         file.Rewind();
     }
     progress.Begin("decoding");
     open(complain);
     file.BeforeWaiting([&] { text.Flush(); });
 
-    std::unique_ptr<Output> report;
-    if (options.json) {
-        report = std::make_unique<JsonOutput>(text);
-    } else {
-        report = std::make_unique<Report>(text, LongestName(table));
+    start.file = file.Name();
+    start.isEmpty = file.IsEmpty();
+    start.units = options.units;
+    start.longestName = LongestName(table);
+#if defined(KRM_HAVE_EXCHANGE)
+    std::optional<RecordingEngine> recorded;
+    if (options.record) {
+        recorded.emplace(engine, *options.record, start);
     }
-    Application::Settings settings;
-    settings.recording.file = file.Name();
-    settings.recording.isEmpty = file.IsEmpty();
-    settings.units = options.units;
-    settings.log = log ? &*log : nullptr;
-    settings.outputs = {report.get()};
-    if (values) {
-        settings.outputs.push_back(&*values);
-    }
-    settings.goOn = goOn;
-    SessionSummary summary = Application(engine, std::move(settings)).Run();
-    summary.interrupted = summary.interrupted || (surroundings.interrupt != nullptr && *surroundings.interrupt != 0);
-
-    progress.Hide();
-    if (values) {
-        values->Close();
-        summary.written.push_back("values " + *options.values + Amount(values->RowCount(), "row"));
-    }
-    if (log) {
-        log->Close();
-        summary.written.push_back("operation log " + *options.operationLog + Amount(log->LineCount(), "line"));
-    }
-    summary.faults = complaints.Count();
-    report->End(summary);
+    Engine& asked = recorded ? static_cast<Engine&>(*recorded) : engine;
+#else
+    Engine& asked = engine;
+#endif
+    const SessionSummary summary = RunApplication(options, asked, start, text, files, goOn, [&](SessionSummary& ended) {
+        ended.interrupted = ended.interrupted || IsInterrupted(surroundings);
+        ended.faults = complaints.Count();
+        progress.Hide();
+    });
     complaints.TellRest();
-    if (summary.interrupted) {
-        err << "diagnosis_session: interrupted; what was decoded until then is there\n";
+#if defined(KRM_HAVE_EXCHANGE)
+    if (recorded) {
+        recorded->End({summary.faults, summary.interrupted, breakOff});
     }
-    if (!breakOff.empty()) {
-        throw FileError(breakOff + "; what was decoded until then is there");
-    }
-    return complaints.Count() == 0 && !summary.interrupted ? kGood : kBadInput;
+#endif
+    return StatusOf(summary, breakOff, err);
 }
+
+#if defined(KRM_HAVE_EXCHANGE)
+/// The same over what such a session recorded. What was wrong with its input was told then.
+int Replay(const Options& options, std::ostream& out, std::ostream& err, const Surroundings& surroundings) {
+    CheckOutputs(options, {*options.replay});
+    ReplayingEngine engine(*options.replay);
+    OutputFiles files(options);
+    TextStream text(out, "standard output");
+    SessionSummary summary;
+    try {
+        summary = RunApplication(
+            options, engine, engine.Start(), text, files,
+            [&](std::uint64_t) { return engine.HasMore() && !IsInterrupted(surroundings); },
+            [&](SessionSummary& ended) {
+                ended.interrupted = ended.interrupted || engine.End().interrupted || IsInterrupted(surroundings);
+                ended.faults = engine.End().faults;
+            });
+    } catch (const FileError&) {
+        text.Flush();  // what came before the answer that is missing
+        throw;
+    }
+    return StatusOf(summary, engine.End().breakOff, err);
+}
+#endif
 
 }  // namespace
 
@@ -223,6 +313,11 @@ int RunDiagnosisSession(const std::vector<std::string>& arguments, std::ostream&
         return line.isWrong ? kFailed : kGood;
     }
     try {
+#if defined(KRM_HAVE_EXCHANGE)
+        if (line.options.replay) {
+            return Replay(line.options, out, err, surroundings);
+        }
+#endif
         return Run(line.options, arguments.empty() ? "" : arguments[0], out, err, surroundings);
     } catch (const FileError& error) {
         err << "diagnosis_session: " << error.what() << '\n';

@@ -148,6 +148,8 @@ TEST_F(Session, BadArguments) {
         {{"--units=furlongs"}, "--units: furlongs not in {metric,imperial}"},
         {{"a", "b", "c"}, "The following argument was not expected: c"},
         {{""}, "RECORDING: needs a file"},
+        {{"--record=-"}, "--record: needs a file; standard output has the report"},
+        {{"--replay", ""}, "--replay: needs a file"},
     };
     for (const auto& [arguments, what] : cases) {
         const SessionResult run = RunSession(arguments);

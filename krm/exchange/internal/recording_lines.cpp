@@ -114,7 +114,7 @@ public:
     /// Tells a fault at `offset`, of the member of this name; false.
     bool Fail(std::size_t offset, std::string_view member, std::string text) {
         m_fault->offset = offset;
-        m_fault->path = "$";
+        m_fault->path.assign(1, '$');
         if (!member.empty()) {
             m_fault->path += '.';
             m_fault->path += member;
