@@ -296,7 +296,9 @@ int Replay(const Options& options, std::ostream& out, std::ostream& err, const S
                 ended.faults = engine.End().faults;
             });
     } catch (const FileError&) {
-        text.Flush();  // what came before the answer that is missing
+        // What came before the answer that is missing is kept.
+        text.Flush();
+        files.Close(options, summary);
         throw;
     }
     return StatusOf(summary, engine.End().breakOff, err);

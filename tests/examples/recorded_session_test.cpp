@@ -111,17 +111,23 @@ TEST_F(RecordedSession, TakesThePlaceOfAnOlderRecording) {
 }
 
 TEST_F(RecordedSession, GoesAsFarAsARecordingThatWasCutOff) {
-    const SessionResult whole = RunSession({"--record", m_folder.Path("r")});
+    const SessionResult whole = RunSession(
+        {"--record", m_folder.Path("r"), "--values", m_folder.Path("v"), "--operation-log", m_folder.Path("log")});
     const std::string text = m_folder.Read("r");
     // Before an answer: the application waits for it.
     const std::string path =
         m_folder.Write("cut", text.substr(0, text.rfind("\"direction\":\"answer\"", text.size() / 2)));
-    const SessionResult cut = RunSession({"--replay", path});
+    const SessionResult cut =
+        RunSession({"--replay", path, "--values", m_folder.Path("cut v"), "--operation-log", m_folder.Path("cut log")});
     EXPECT_EQ(cut.status, 2);
     EXPECT_THAT(cut.err, StartsWith("diagnosis_session: " + path + ": exchange "));
     EXPECT_THAT(cut.err, EndsWith(" request has no answer\n"));
     EXPECT_THAT(whole.out, StartsWith(cut.out));
     EXPECT_GT(cut.out.size(), 100U);
+    EXPECT_THAT(m_folder.Read("v"), StartsWith(m_folder.Read("cut v")));
+    EXPECT_GT(m_folder.Read("cut v").size(), 100U);
+    EXPECT_THAT(m_folder.Read("log"), StartsWith(m_folder.Read("cut log")));
+    EXPECT_GT(m_folder.Read("cut log").size(), 1000U);
     // Between a message of the bus and the next: the session was interrupted there.
     const std::size_t last = text.rfind(
         "{\"exchange\":",
