@@ -207,7 +207,7 @@ private:
     }
 
     void AddFault(RecordingFault fault) {
-        if (m_faultCount++ < Player::kMaxFaults) {
+        if (m_faultCount++ < kMaxKeptFaults) {
             m_faults.push_back(std::move(fault));
         }
     }

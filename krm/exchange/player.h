@@ -82,9 +82,6 @@ struct PlayedAnswer {
 /// begin with, and for each request with what it and its answer hold. Several threads may use it at the same time.
 class KRM_EXCHANGE_API Player {
 public:
-    /// How many faults it keeps.
-    static constexpr std::size_t kMaxFaults = 100;
-
     /// Plays a file. Reads it once from its first to its last line.
     explicit Player(const std::filesystem::path& recording, PlayerOptions options = {});
     /// Plays a stream from where it is to its end. It must live longer, have been opened as a binary one, and be one that
@@ -97,7 +94,7 @@ public:
     /// Why nothing can be played: the file can't be opened, is no recording, or a pattern of the options is wrong. Else empty.
     const std::string& Error() const;
 
-    /// What in the recording can't be played, the first kMaxFaults of it: lines that aren't messages, a last line that is
+    /// What in the recording can't be played, the first kMaxKeptFaults of it: lines that aren't messages, a last line that is
     /// torn, answers to no request. An answer whose content is wrong shows when it is asked for.
     const std::vector<RecordingFault>& Faults() const;
     /// How many there are in all.

@@ -164,6 +164,9 @@ private:
 /// The longest line of a recording that is read, in bytes.
 inline constexpr std::size_t kMaxRecordingLine = std::size_t{256} * 1024 * 1024;
 
+/// How many faults are kept by what goes through a whole recording, of however many there are.
+inline constexpr std::size_t kMaxKeptFaults = 100;
+
 /// How to read a recording.
 struct RecordingReadOptions {
     /// A program's own messages in it, which must live as long as the reader and what it returned. One that the library has

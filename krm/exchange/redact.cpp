@@ -419,7 +419,7 @@ RedactedRecording RedactMessages(Redactor& redactor, Open open, Write write) {
                 return done;
             }
             ++done.faultCount;
-            if (done.faults.size() < RedactedRecording::kMaxFaults) {
+            if (done.faults.size() < kMaxKeptFaults) {
                 done.faults.push_back(recorded->fault);
             }
             continue;

@@ -135,13 +135,10 @@ private:
 
 /// What RedactRecording did.
 struct RedactedRecording {
-    /// So many faults are kept, of however many.
-    static constexpr std::size_t kMaxFaults = 100;
-
     std::uint64_t messages = 0;          ///< copied
     std::uint64_t places = 0;            ///< how often a value was replaced, or a number
     std::uint64_t faultCount = 0;        ///< lines that could not be read, which are not in the copy
-    std::vector<RecordingFault> faults;  ///< the first of them
+    std::vector<RecordingFault> faults;  ///< the first kMaxKeptFaults of them
     std::string error;                   ///< why there is no copy; empty when there is one
 
     /// Whether there is a copy, though faults may keep lines out of it.

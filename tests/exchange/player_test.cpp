@@ -330,14 +330,14 @@ TEST(Player, SaysWhatIsWrongWithAnAnswerWhenItIsAskedFor) {
 
 TEST(Player, KeepsTheFirstFaults) {
     Tape tape;
-    for (std::size_t i = 0; i < Player::kMaxFaults + 50; ++i) {
+    for (std::size_t i = 0; i < krm::kMaxKeptFaults + 50; ++i) {
         tape.text += "nonsense\n";
     }
     tape.Add(CodesRequest(), CodesAnswer(1));
     Player player = tape.Play();
-    EXPECT_EQ(player.FaultCount(), Player::kMaxFaults + 50);
-    EXPECT_EQ(player.Faults().size(), Player::kMaxFaults);
-    EXPECT_EQ(player.Faults().back().line, Player::kMaxFaults + 1);
+    EXPECT_EQ(player.FaultCount(), krm::kMaxKeptFaults + 50);
+    EXPECT_EQ(player.Faults().size(), krm::kMaxKeptFaults);
+    EXPECT_EQ(player.Faults().back().line, krm::kMaxKeptFaults + 1);
     EXPECT_EQ(Asked(player, CodesRequest()), "1: 1");
 }
 

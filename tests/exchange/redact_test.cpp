@@ -787,7 +787,7 @@ TEST(RedactRecording, KeepsTheFirstFaultsAlone) {
     EXPECT_TRUE(done);
     EXPECT_EQ(done.messages, 2U);
     EXPECT_EQ(done.faultCount, 252U);
-    EXPECT_EQ(done.faults.size(), krm::RedactedRecording::kMaxFaults);
+    EXPECT_EQ(done.faults.size(), krm::kMaxKeptFaults);
 }
 
 TEST(RedactRecording, ProgramsOwnMessagesAreReadByOptions) {
