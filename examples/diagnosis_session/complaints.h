@@ -8,6 +8,8 @@
 #include <ostream>
 #include <string>
 
+#include "control_characters.h"
+
 namespace diagnosis_session {
 
 /// A place in a text file, from 1. A line alone stands for all of it: then the column is 0.
@@ -47,8 +49,7 @@ public:
             }
             m_out << ' ';
             for (const char character : what) {
-                const bool isControl = (character >= 0 && character < ' ') || character == '\x7F';
-                m_out << (isControl ? '?' : character);
+                m_out << (IsControl(character) ? '?' : character);
             }
             m_out << '\n';
         };

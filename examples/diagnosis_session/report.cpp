@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "control_characters.h"
 #include "engine.h"
 #include "hex.h"
 #include "krm/framework/log_sinks.h"
@@ -29,10 +30,6 @@ std::string_view Blanks(std::size_t width, std::string_view text) {
 
 std::string Count(std::uint64_t number, const char* what) {
     return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
-}
-
-bool IsControl(char character) {
-    return (character >= 0 && character < ' ') || character == '\x7F';
 }
 
 /// Text of a vehicle or a table on one line, whatever it holds. `changed` keeps it where it had to be changed.
