@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <iterator>
 #include <memory>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -73,12 +74,17 @@ struct krm::Fields<RedactedAnswer>
 
 namespace {
 
+/// Whether a text is as the regular expression says. Not GoogleTest's matcher, which knows no classes of characters on Windows.
+MATCHER_P(IsLike, expression, "") {
+    static_cast<void>(result_listener);
+    return std::regex_match(arg, std::regex(expression));
+}
+
 using krm::RedactOptions;
 using krm::Redactor;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::MatchesRegex;
 using testing::Not;
 using testing::StartsWith;
 
@@ -152,7 +158,7 @@ TEST(Redact, VinBecomesOneOfTheSameForm) {
     const std::string pseudonym = krm::ToString(answer.m_strVinCode);
     EXPECT_NE(pseudonym, kVin);
     EXPECT_EQ(pseudonym.size(), 17U);
-    EXPECT_THAT(pseudonym, MatchesRegex(kVinRegex));
+    EXPECT_THAT(pseudonym, IsLike(kVinRegex));
 }
 
 TEST(Redact, EveryFormInATextIsReplacedByTheSamePseudonym) {
@@ -223,7 +229,7 @@ TEST(Redact, ListsAndArraysThatSpellAValue) {
 TEST(Redact, KeysAndValuesOfMaps) {
     Redactor redactor({.values = {"Jane Doe"}});
     const std::string pseudonym = PseudonymOf(redactor, "Jane Doe");
-    EXPECT_THAT(pseudonym, MatchesRegex("[A-Z][a-z][a-z][a-z] [A-Z][a-z][a-z]"));
+    EXPECT_THAT(pseudonym, IsLike("[A-Z][a-z][a-z][a-z] [A-Z][a-z][a-z]"));
     RedactedAnswer answer;
     answer.m_cTexts.SetAt("owner", "Jane Doe");
     answer.m_cTexts.SetAt("of Jane Doe", "yes");
@@ -247,10 +253,10 @@ TEST(Redact, WhatAFieldHoldsIsReplacedEverywhere) {
     answer.m_cTexts.SetAt("colour", "grey");
     Redact(redactor, answer);
     const std::string owner = krm::ToString(answer.m_strOwner);
-    EXPECT_THAT(owner, MatchesRegex("  [A-Z][a-z][a-z][a-z] [A-Z][a-z][a-z]\r\n"));
+    EXPECT_THAT(owner, IsLike("  [A-Z][a-z][a-z][a-z] [A-Z][a-z][a-z]\r\n"));
     CKRMString phone;
     EXPECT_TRUE(answer.m_cTexts.Lookup("phone", phone));
-    EXPECT_THAT(krm::ToString(phone), MatchesRegex("[0-9]+"));
+    EXPECT_THAT(krm::ToString(phone), IsLike("[0-9]+"));
     EXPECT_EQ(krm::ToString(answer.m_strNote),
               "Called " + Folded(owner.substr(2, 8)) + " on " + krm::ToString(phone) + ".");
     EXPECT_EQ(krm::ToString(krm::At(answer.m_cNotes, 0)), Hex(owner.substr(2, 8)));
@@ -317,7 +323,7 @@ TEST(Redact, ShortOrEmptyContentOfAFieldIsReplacedThereAlone) {
         cell = 0;
     }
     Redact(redactor, answer);
-    EXPECT_THAT(krm::ToString(answer.m_strOwner), MatchesRegex("[A-Z][a-z]\\."));
+    EXPECT_THAT(krm::ToString(answer.m_strOwner), IsLike("[A-Z][a-z]\\."));
     EXPECT_NE(answer.m_strOwner, "Jo.");
     EXPECT_EQ(answer.m_strNote, "Jo. bought it in 0000.");
     EXPECT_NE(Spelled(answer.m_uchBytes), std::string(6, '\0'));
@@ -460,7 +466,7 @@ TEST(Redact, EveryEncodingKeepsItsLengthAndKind) {
         EXPECT_EQ(other.size(), value.size());
         return other;
     };
-    EXPECT_THAT(pseudonym("ab-CD 12/34"), MatchesRegex("[a-z][a-z]-[A-Z][A-Z] [0-9][0-9]/[0-9][0-9]"));
+    EXPECT_THAT(pseudonym("ab-CD 12/34"), IsLike("[a-z][a-z]-[A-Z][A-Z] [0-9][0-9]/[0-9][0-9]"));
     const std::string utf8 = pseudonym("\xC3\xBC\xE5\xBC\xA0\xF0\xA0\x80\x80z");
     EXPECT_TRUE(utf8[0] >= '\xC3' && utf8[2] >= '\xE4' && utf8[5] == '\xF0') << Hex(utf8);
     Redactor redactor({.values = {utf8}});
@@ -469,7 +475,7 @@ TEST(Redact, EveryEncodingKeepsItsLengthAndKind) {
     ASSERT_TRUE(redactor.Redact(answer));
     EXPECT_THAT(krm::ToJson(answer), Not(HasSubstr("$bytes")));
     const std::string latin1 = pseudonym("M\xFCller");
-    EXPECT_THAT(latin1.substr(2), MatchesRegex("[a-z]+"));
+    EXPECT_THAT(latin1.substr(2), IsLike("[a-z]+"));
     EXPECT_GE(static_cast<unsigned char>(latin1[1]), 0xC0);
 }
 
@@ -727,7 +733,7 @@ TEST(RedactRecording, ReplacesWhatALaterMessageTellsAndLeavesOutWhatItCannotRead
     EXPECT_TRUE(done.faults[1].torn);
 
     const std::string pseudonym = PseudonymOf(redactor, kOldVin);
-    EXPECT_THAT(pseudonym, MatchesRegex("[A-Z][a-z]\\. [0-9]+-[a-z]+"));
+    EXPECT_THAT(pseudonym, IsLike("[A-Z][a-z]\\. [0-9]+-[a-z]+"));
     std::string numbers = "1";
     for (const char c : pseudonym) {
         numbers += ',' + std::to_string(static_cast<int>(c));

@@ -27,6 +27,9 @@ prepare() {
         clang-newest) need clang-19 ;;
     esac
     export KRM_WINE WINEDEBUG=-all
+    case $1 in
+        windows-*) export LC_ALL=C.UTF-8 ;; # else wine has no names for files with letters beyond ASCII
+    esac
 }
 
 # run_on PLATFORM PROGRAM [ARGUMENT...]: runs a prepared platform's program in its build folder.
