@@ -16,6 +16,7 @@
 #include "krm/exchange/internal/compare_rules.h"
 #include "krm/exchange/internal/compare_text.h"
 #include "krm/exchange/internal/pseudonyms.h"
+#include "krm/exchange/internal/recording_lines.h"
 #include "krm/exchange/internal/text.h"
 #include "krm/platform/string.h"
 
@@ -465,7 +466,7 @@ RedactedRecording RedactRecording(const std::filesystem::path& from, const std::
     }
     if (done.error.empty()) {
         std::filesystem::rename(part, to, failed);
-        done.error = failed ? "can't be renamed: " + failed.message() : std::string();
+        done.error = failed ? "can't be renamed: " + recording::SystemError(failed) : std::string();
     }
     if (!done.error.empty()) {
         std::filesystem::remove(part, failed);

@@ -509,7 +509,37 @@ MessageFromJson ReadMessage(const Envelope& envelope, std::span<const MessageDes
 }
 
 std::string SystemError() {
-    return std::generic_category().message(errno);
+    return SystemError(std::error_code(errno, std::generic_category()));
+}
+
+std::string SystemError(const std::error_code& error) {
+    // The system's own texts are in the language of the process.
+    static constexpr struct {
+        std::errc condition;
+        const char* text;
+    } kTexts[] = {
+        {std::errc::no_such_file_or_directory, "No such file or directory"},
+        {std::errc::file_exists, "File exists"},
+        {std::errc::permission_denied, "Permission denied"},
+        {std::errc::no_space_on_device, "No space left on device"},
+        {std::errc::is_a_directory, "Is a directory"},
+        {std::errc::not_a_directory, "Not a directory"},
+        {std::errc::read_only_file_system, "Read-only file system"},
+        {std::errc::file_too_large, "File too large"},
+        {std::errc::filename_too_long, "File name too long"},
+        {std::errc::too_many_files_open, "Too many open files"},
+        {std::errc::invalid_argument, "Invalid argument"},
+        {std::errc::broken_pipe, "Broken pipe"},
+        {std::errc::io_error, "Input/output error"},
+        {std::errc::bad_file_descriptor, "Bad file descriptor"},
+        {std::errc::cross_device_link, "Invalid cross-device link"},
+    };
+    for (const auto& known : kTexts) {
+        if (error == known.condition) {
+            return known.text;
+        }
+    }
+    return "system error " + std::to_string(error.value());
 }
 
 }  // namespace krm::recording

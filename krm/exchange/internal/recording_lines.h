@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "krm/core/types.h"
@@ -102,8 +103,10 @@ const MessageDescription* Find(std::span<const MessageDescription> own, krm_ulon
 /// Reads a line's message. What is wrong is in `fault`, and there is no message then.
 MessageFromJson ReadMessage(const Envelope& envelope, std::span<const MessageDescription> own, RecordingFault& fault);
 
-/// What the last failing call of the operating system says, for people.
+/// Why the last call of the operating system failed, for people: in English, whatever the process's language.
 std::string SystemError();
+/// The same of a code that a function gave.
+std::string SystemError(const std::error_code& error);
 
 }  // namespace krm::recording
 
