@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     krm::bench::RegisterConverters();
     krm::bench::RegisterMessages();
     krm::bench::RegisterJson();
+    krm::bench::RegisterComparison();
     krm::bench::RegisterRecordings();
     krm::bench::RegisterLists();
     krm::bench::RegisterTrees();

@@ -78,6 +78,7 @@ void Grow(const std::string& name, const Function& run, int from, int to);
 void RegisterConverters();
 void RegisterMessages();
 void RegisterJson();
+void RegisterComparison();
 void RegisterRecordings();
 void RegisterLists();
 void RegisterTrees();
