@@ -16,10 +16,11 @@ class TestFolder {
 public:
     TestFolder() {
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        m_path = std::filesystem::path(::testing::TempDir()) /
-                 ("krm_" + std::string(info->test_suite_name()) + '_' + info->name());
-        std::filesystem::remove_all(m_path);
-        std::filesystem::create_directories(m_path);
+        const std::string name = "krm_" + std::string(info->test_suite_name()) + '_' + info->name() + '_';
+        // Another program may be running the same test.
+        for (int i = 0; i == 0 || !std::filesystem::create_directory(m_path); ++i) {
+            m_path = std::filesystem::path(::testing::TempDir()) / (name + std::to_string(i));
+        }
     }
     ~TestFolder() {
         std::error_code ignored;
