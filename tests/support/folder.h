@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -16,7 +17,9 @@ class TestFolder {
 public:
     TestFolder() {
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        const std::string name = "krm_" + std::string(info->test_suite_name()) + '_' + info->name() + '_';
+        std::string name = "krm_" + std::string(info->test_suite_name()) + '_' + info->name() + '_';
+        // A test with parameters has slashes in its name.
+        std::replace(name.begin(), name.end(), '/', '_');
         // Another program may be running the same test.
         for (int i = 0; i == 0 || !std::filesystem::create_directory(m_path); ++i) {
             m_path = std::filesystem::path(::testing::TempDir()) / (name + std::to_string(i));
