@@ -26,6 +26,8 @@ public:
 
     unsigned char m_uchSystemTime[16] = {};  ///< the 16 bytes
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataSystemTime> = true;
 extern template class CKRMList<CKRMCStoredDataSystemTime>;
 
 /// Two time stamps. Only the engine knows the layout of their bytes.
@@ -37,6 +39,8 @@ public:
     unsigned char m_uchFirstStamp[7] = {};   ///< the 7 bytes of the first stamp
     unsigned char m_uchSecondStamp[7] = {};  ///< the 7 bytes of the second stamp
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataTimestamp> = true;
 extern template class CKRMList<CKRMCStoredDataTimestamp>;
 
 /// What a file says about itself.
@@ -56,6 +60,8 @@ public:
     CKRMString m_strHeaderText3;            ///< third text
     CKRMCStoredDataTimestamp m_cTimestamp;  ///< time stamps of the file
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataFileHeader> = true;
 extern template class CKRMList<CKRMCStoredDataFileHeader>;
 
 /// One system, that is one ECU, in a file. CKRMCStoredDataSystemData begins with the same fields.
@@ -69,6 +75,8 @@ public:
     krm_ulong m_ulSystemId = 0;       ///< system ID; the IDs are the engine's
     CKRMString m_strSystem;           ///< name of the system
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataSystemInfo> = true;
 extern template class CKRMList<CKRMCStoredDataSystemInfo>;
 
 /// One stored freeze frame.
@@ -89,6 +97,8 @@ public:
     CKRMCGetFFDCmdAdaptDataRcv m_cSecondFFD;          ///< second answer with the frame's items
     CKRMCGetDiagDetailCmdAdaptDataRcv m_cDiagDetail;  ///< answer with the diagnosis details
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataFFD> = true;
 extern template class CKRMList<CKRMCStoredDataFFD>;
 
 /// One stored absolute freeze frame.
@@ -100,6 +110,8 @@ public:
     unsigned char m_uchFFDId = 0;       ///< freeze-frame ID
     CKRMCGetFFDCmdAdaptDataRcv m_cFFD;  ///< answer with the frame's items
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataAbsFFD> = true;
 extern template class CKRMList<CKRMCStoredDataAbsFFD>;
 
 /// One point on the X axis of a graph.
@@ -111,6 +123,8 @@ public:
     double m_dXPos = 0;    ///< position on the axis; its unit is the engine's
     CKRMString m_strXPos;  ///< text at that position
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataXPos> = true;
 extern template class CKRMList<CKRMCStoredDataXPos>;
 
 /// One file that can be imported.
@@ -124,6 +138,8 @@ public:
     CKRMCVehicleDecisionCmdAdaptDataRcv m_cVehicle;     ///< answer that identified the vehicle
     CKRMList<CKRMCStoredDataSystemInfo> m_cSystemList;  ///< systems that the file has data of
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataImportFileInfo> = true;
 extern template class CKRMList<CKRMCStoredDataImportFileInfo>;
 
 /// The stored data of one system. The first four fields are those of CKRMCStoredDataSystemInfo.
@@ -142,6 +158,8 @@ public:
     CKRMList<CKRMCStoredDataAbsFFD> m_cAbsFFDList;  ///< absolute freeze frames of the system
     CKRMCGetDataMonitorValueCmdAdaptDataRcv m_cDataMonitorValue;  ///< answer with the data monitor's values
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataSystemData> = true;
 extern template class CKRMList<CKRMCStoredDataSystemData>;
 
 /// The content of one file.
@@ -156,6 +174,8 @@ public:
     CKRMList<CKRMCStoredDataXPos> m_cFirstXPosList;     ///< first list of points on the X axis
     CKRMList<CKRMCStoredDataXPos> m_cSecondXPosList;    ///< second list of points on the X axis
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCStoredDataImportFileData> = true;
 extern template class CKRMList<CKRMCStoredDataImportFileData>;
 
 /// What the messages of this family share beyond MessageOf: they write nothing to the operation log, not even type and

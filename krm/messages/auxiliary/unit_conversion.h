@@ -23,6 +23,8 @@ public:
     CKRMString m_strUnitName;         ///< text of the unit's name
     unsigned short m_ushGenreId = 0;  ///< genre: kind of quantity, the same number as in CKRMCCommandConversionData
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCUnitConversionData> = true;
 extern template class CKRMList<CKRMCUnitConversionData>;
 
 /// A convertible item and the units that it may be shown in.
@@ -35,6 +37,8 @@ public:
     CKRMString m_strItemName;                       ///< text of the item's name
     CKRMList<CKRMCUnitConversionData> m_cUnitList;  ///< units that it may be shown in; unit and unit name are used
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCUnitConvDataItemInfo> = true;
 extern template class CKRMList<CKRMCUnitConvDataItemInfo>;
 
 /// The settings of a unit setting group: which item is shown in which unit.
@@ -46,6 +50,8 @@ public:
     unsigned char m_uchGroupId = 0;                    ///< number of the unit setting group
     CKRMList<CKRMCUnitConversionData> m_cSettingList;  ///< settings of the group; item and unit are used
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCUnitConvDataSettingInfo> = true;
 extern template class CKRMList<CKRMCUnitConvDataSettingInfo>;
 
 /// An identifier that the unit conversion is created for.
@@ -57,6 +63,8 @@ public:
     unsigned short m_ushIdType = 0;  ///< kind of identifier; the codes are the engine's
     CKRMString m_strValue;           ///< value of the identifier
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCUnitConversionCreationData> = true;
 extern template class CKRMList<CKRMCUnitConversionCreationData>;
 
 /// CreateUnitConversionCommand asks to set up unit conversion.

@@ -24,6 +24,8 @@ public:
     unsigned char m_uchHelpIndex = 0;  ///< place of the piece; its meaning is the engine's
     CKRMString m_strHelpInfo;          ///< the help itself, or where to find it: the engine's choice
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCDbHelpInfo> = true;
 extern template class CKRMList<CKRMCDbHelpInfo>;
 
 /// CreateViewerDataCtrl asks to create the viewer's data control.

@@ -21,6 +21,8 @@ public:
     unsigned short m_ushIdType = 0;  ///< kind of identifier; the codes are the engine's
     CKRMString m_strValue;           ///< value of the identifier
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCDiagWordsTableCreationData> = true;
 extern template class CKRMList<CKRMCDiagWordsTableCreationData>;
 
 /// A words ID and its translation. Logged as `ID` and `String`.
@@ -34,6 +36,8 @@ public:
     krm_ulong m_ulId = 0;    ///< words ID; logged under the name ID
     CKRMString m_strString;  ///< translation of that ID; logged under the name String
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCDiagWordsTableTranslationStringData> = true;
 extern template class CKRMList<CKRMCDiagWordsTableTranslationStringData>;
 
 /// CreateDiagWordsTable asks to build the table of words.

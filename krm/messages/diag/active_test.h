@@ -93,6 +93,8 @@ public:
     unsigned char m_uchType = 0;  ///< kind of value; the codes are the engine's
     double m_dData = 0;           ///< physical value to drive with
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCDrivingData> = true;
 extern template class CKRMList<CKRMCDrivingData>;
 
 /// StartActiveTest asks to drive an actuator.

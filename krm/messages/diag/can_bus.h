@@ -19,6 +19,8 @@ public:
     krm_ulong m_ulCategoryId = 0;           ///< category of the ECU; the IDs are the engine's
     unsigned char m_uchHistPidSupport = 0;  ///< whether a PID gives the ECU's history; the codes are the engine's
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCanBusCategoryInfo> = true;
 extern template class CKRMList<CKRMCCommandCanBusCategoryInfo>;
 
 /// The ECUs of one result of a check of the CAN bus.
@@ -29,6 +31,8 @@ public:
 
     CKRMList<CKRMCCommandCanBusCategoryInfo> Data;  ///< ECUs that the result is about
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCanBusCategoryListData> = true;
 extern template class CKRMList<CKRMCCommandCanBusCategoryListData>;
 
 /// GetCanBusCategoryList asks for the ECUs whose communication can be checked.

@@ -17,6 +17,8 @@ public:
     krm_ulong m_ulCustomizeNameId = 0;    ///< words ID of the customisation's name
     CKRMString m_strCustomizeName;        ///< text of the customisation's name
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCustomizeName> = true;
 extern template class CKRMList<CKRMCCommandCustomizeName>;
 
 /// One value that a customisable item can take. A value travels twice, here and in all customisation records: as a
@@ -31,6 +33,8 @@ public:
     unsigned short m_ushCustomizeValue = 0;           ///< the value as a number, if 16 bits hold it
     CKRMList<unsigned char> m_uchCustomizeValueList;  ///< the value as bytes; logged as one text of hexadecimal digits
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCustomizeItemValue> = true;
 extern template class CKRMList<CKRMCCommandCustomizeItemValue>;
 
 /// A customisable item: its current value and the values that it can take. Has no dump: the message that holds it
@@ -51,6 +55,8 @@ public:
     krm_ulong m_ulPersonalizeId = 0;  ///< whose setting it is; the IDs are the engine's; logged in hexadecimal
     CKRMList<CKRMCCommandCustomizeItemValue> m_cCustomizeValueList;  ///< values that the item can take
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCustomizeItemData> = true;
 extern template class CKRMList<CKRMCCommandCustomizeItemData>;
 
 /// An item to set, and its new value. Has no dump: the message that holds it writes its fields.
@@ -64,6 +70,8 @@ public:
     unsigned short m_ushCustomizeValue = 0;           ///< new value as a number, if 16 bits hold it
     CKRMList<unsigned char> m_uchCustomizeValueList;  ///< new value as bytes; logged as one text of hexadecimal digits
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCustomizeItemSetData> = true;
 extern template class CKRMList<CKRMCCommandCustomizeItemSetData>;
 
 /// Whether an item was set. Has no dump: the message that holds it writes its fields.
@@ -76,6 +84,8 @@ public:
     unsigned short m_ushCustomizeItemId = 0;  ///< ID of the item
     bool m_bSuccess = false;                  ///< the item was set
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCustomizeItemResult> = true;
 extern template class CKRMList<CKRMCCommandCustomizeItemResult>;
 
 /// GetCustomizeSupportList asks for what can be customised.

@@ -55,6 +55,8 @@ public:
     unsigned short m_ushMonitorReserved = 0;   ///< stored, copied and cleared only; not logged
     unsigned char m_uchMonitorReserved2 = 0;   ///< stored, copied and cleared only; not logged
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandStartDataMonitorData> = true;
 extern template class CKRMList<CKRMCCommandStartDataMonitorData>;
 
 /// A data monitor that was started. Has no dump: the message that holds it writes its fields.
@@ -66,6 +68,8 @@ public:
     unsigned short m_ushDataMonitorId = 0;  ///< ID of the monitor, as GetDataMonitorValue carries it
     krm_ulong m_ulEcuId = 0;                ///< ECU whose values are watched
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandDataMonitorIdData> = true;
 extern template class CKRMList<CKRMCCommandDataMonitorIdData>;
 
 /// An error of the data monitor. Has no dump: the message that holds it writes its fields.
@@ -79,6 +83,8 @@ public:
     krm_ulong m_ulHelpId1 = 0;     ///< ID of a help text; logged unsigned
     krm_ulong m_ulHelpId2 = 0;     ///< ID of a second help text; logged unsigned
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandDmErrorData> = true;
 extern template class CKRMList<CKRMCCommandDmErrorData>;
 
 /// A value that the data monitor received. Has no dump: the message that holds it writes its fields.
@@ -91,6 +97,8 @@ public:
     krm_ulong m_ulRidRecvValue = 0;       ///< value received; logged in hexadecimal
     unsigned short m_ushRidId = 0;        ///< RID that the value came under
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandDmReceiveData> = true;
 extern template class CKRMList<CKRMCCommandDmReceiveData>;
 
 /// GetDataMonitorList asks for the values that can be monitored.

@@ -14,6 +14,8 @@ public:
     krm_ulong m_ulParameter = 0;  ///< number of the parameter, as SAE J2534 gives it
     krm_ulong m_ulValue = 0;      ///< value, in the parameter's unit by SAE J2534
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandJ2534Config> = true;
 extern template class CKRMList<CKRMCCommandJ2534Config>;
 
 #endif  // KRM_MESSAGES_DIAG_J2534_CONFIG_H_

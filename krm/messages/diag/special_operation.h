@@ -18,6 +18,8 @@ public:
     krm_ulong m_ulGroupNameId = 0;    ///< words ID of the group's name
     CKRMString m_strGroupName;        ///< text of the group's name
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCSpGroup> = true;
 extern template class CKRMList<CKRMCSpGroup>;
 
 /// GetSpOperateCtrlRecordGroup asks for the groups of special operation control records.

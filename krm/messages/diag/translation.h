@@ -18,6 +18,8 @@ public:
     krm_ulong m_ulId = 0;    ///< words ID; logged under the name ID
     CKRMString m_strString;  ///< translation of that ID; logged under the name String
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandTranslationStringData> = true;
 extern template class CKRMList<CKRMCCommandTranslationStringData>;
 
 /// GetTranslationString asks for the translations of words IDs.

@@ -68,6 +68,8 @@ public:
     unsigned short m_ushSortIndex = 0;       ///< place among the lists
     unsigned char m_uchInitialDispFlag = 0;  ///< not 0: displayed initially
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCustomListData> = true;
 extern template class CKRMList<CKRMCCommandCustomListData>;
 
 /// GetUtilityList asks for the utility functions.

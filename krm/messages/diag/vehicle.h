@@ -23,6 +23,8 @@ public:
     unsigned short m_ushCarTypeCategoryId = 0;          ///< ID of the category
     unsigned short m_ushCarTypeCategoryContentsId = 0;  ///< ID of the choice made in it
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandCarTypeCategoryIdData> = true;
 extern template class CKRMList<CKRMCCommandCarTypeCategoryIdData>;
 
 /// One possible choice in a car type category.
@@ -117,6 +119,8 @@ public:
     CKRMList<unsigned short>
         DetailList;  ///< IDs of the function's details; each is logged under the name m_cEcuFunctionDetailId
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCCommandEcuFunctionData> = true;
 extern template class CKRMList<CKRMCCommandEcuFunctionData>;
 
 /// One named item of vehicle information with its values.
@@ -172,6 +176,8 @@ public:
     unsigned short m_ushIdType = 0;  ///< kind of identifier; the codes are the engine's
     CKRMString m_strValue;           ///< value of the identifier
 };
+template <>
+inline constexpr bool krm::kCopiedInOneStep<CKRMCWrapperCreationData> = true;
 extern template class CKRMList<CKRMCWrapperCreationData>;
 
 /// VehicleDecision asks which choices are open after those made.
