@@ -1,6 +1,8 @@
 """Runs diagnosis_session as a user does: exit codes, pipes, devices, packed files, Ctrl-C.
 
-run_session.py PROGRAM DATA HAS_ZLIB
+run_session.py DATA HAS_ZLIB PROGRAM...
+
+PROGRAM is the program, behind the emulator that runs it, if any, and the emulator's options.
 """
 
 import gzip
@@ -13,7 +15,7 @@ import sys
 import tempfile
 import time
 
-program, data, has_zlib = sys.argv[1], sys.argv[2], sys.argv[3] == "1"
+data, has_zlib, *program = sys.argv[1], sys.argv[2] == "1", *sys.argv[3:]
 recording, items = os.path.join(data, "session.log"), os.path.join(data, "session.items.json")
 failures = []
 
@@ -26,7 +28,7 @@ def check(name, holds, seen=""):
 
 
 def run(*arguments, **options):
-    return subprocess.run([program, *arguments], capture_output=True, timeout=120, **options)
+    return subprocess.run([*program, *arguments], capture_output=True, timeout=120, **options)
 
 
 plain = run(recording, items)
@@ -81,21 +83,21 @@ with tempfile.TemporaryDirectory() as folder:
 
     if os.path.exists("/dev/full"):
         with open("/dev/full", "wb") as full:
-            told = subprocess.run([program, recording, items], stdout=full, stderr=subprocess.PIPE, timeout=120)
+            told = subprocess.run([*program, recording, items], stdout=full, stderr=subprocess.PIPE, timeout=120)
         check("a full disk is exit 2", told.returncode == 2 and b"no space left" in told.stderr, told)
         for option in ("--values", "--operation-log"):
             told = run(recording, items, option, "/dev/full")
             check(option + " on a full disk is exit 2", told.returncode == 2 and b"no space left" in told.stderr, told)
 
     long = path("long.log", text * 2000)
-    closed = subprocess.Popen([program, long, items], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+    closed = subprocess.Popen([*program, long, items], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
     closed.stdout.read(1000)
     closed.stdout.close()
     told = closed.stderr.read()
     check("a closed pipe is exit 2", closed.wait(120) == 2 and b"pipe" in told, told)
 
     # Ctrl-C while it waits for more.
-    waiting = subprocess.Popen([program, "-", items], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+    waiting = subprocess.Popen([*program, "-", items], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                                stderr=subprocess.PIPE)
     waiting.stdin.write(text)
     waiting.stdin.flush()
@@ -103,7 +105,7 @@ with tempfile.TemporaryDirectory() as folder:
     waiting.send_signal(signal.SIGINT)
     rest, told = waiting.communicate(timeout=120)
     check("results come while it waits", first.startswith(b"Recording"), first)
-    silent = subprocess.Popen([program, "-", items], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+    silent = subprocess.Popen([*program, "-", items], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE)
     time.sleep(0.5)
     silent.send_signal(signal.SIGINT)
@@ -116,7 +118,7 @@ with tempfile.TemporaryDirectory() as folder:
 
     # The progress bar: on a terminal only.
     leader, follower = pty.openpty()
-    shown = subprocess.Popen([program, long, items], stdout=subprocess.DEVNULL, stderr=follower)
+    shown = subprocess.Popen([*program, long, items], stdout=subprocess.DEVNULL, stderr=follower)
     os.close(follower)
     bar = b""
     try:

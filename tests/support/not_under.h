@@ -20,10 +20,11 @@
 
 namespace krm::test {
 
-enum class Condition { Memcheck, AddressSanitizer, ThreadSanitizer, OtherPlatform };
+enum class Condition { Memcheck, AddressSanitizer, ThreadSanitizer, Emulator, OtherPlatform };
 
 /// Whether this program runs under `condition`: a sanitizer is compiled in, who runs the tests under memcheck sets KRM_UNDER
-/// to "memcheck", and CMake defines KRM_TEST_OTHER_PLATFORM where the library builds on another platform.
+/// to "memcheck", and CMake defines KRM_TEST_EMULATED where an emulator of another processor runs the tests, and
+/// KRM_TEST_OTHER_PLATFORM where the library builds on another platform.
 inline bool RunsUnder(Condition condition) {
     switch (condition) {
         case Condition::Memcheck: {
@@ -38,6 +39,12 @@ inline bool RunsUnder(Condition condition) {
 #endif
         case Condition::ThreadSanitizer:
 #if defined(__SANITIZE_THREAD__) || KRM_TEST_HAS_FEATURE(thread_sanitizer)
+            return true;
+#else
+            return false;
+#endif
+        case Condition::Emulator:
+#if defined(KRM_TEST_EMULATED)
             return true;
 #else
             return false;
