@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
 #include "krm/convert/converter.h"
 
@@ -121,21 +120,6 @@ std::uint32_t PidOf(std::uint8_t service, std::span<const std::uint8_t> key) {
     return NumberOf(service == 0x02 ? key.first(1) : key);
 }
 
-/// The words of a unit that names two states, for 0 and for 1; null where it doesn't.
-struct States {
-    const char* unit;
-    const char* off;
-    const char* on;
-};
-constexpr States kStates[] = {
-    {"offon", "off", "on"}, {"onoff", "on", "off"}, {"noyes", "no", "yes"}, {"yesno", "yes", "no"}};
-
-const States* StatesOf(const Item& item) {
-    const auto* const found = std::find_if(std::begin(kStates), std::end(kStates),
-                                           [&](const States& states) { return states.unit == item.unit; });
-    return item.hasMap || found == std::end(kStates) ? nullptr : found;
-}
-
 /// Whether the item is a trouble code: by its unit, or because it is the one that stored a freeze frame, PID 02.
 bool IsTroubleCode(const Item& item, const Bytes& request) {
     const bool storedFrame =
@@ -180,7 +164,7 @@ private:
 
 /// Names, unit, scaling, limits, patterns and where its value lies.
 void DiagnosisEngine::Prepared::Describe(const Item& item, const Bytes& request, const UnitSettings& units) {
-    const States* const states = StatesOf(item);
+    const States* const states = item.hasMap ? nullptr : FindStates(item.unit);
     isMap = item.hasMap;
     unit = units.For(item.unit);
     record.m_ushId = item.number;

@@ -86,7 +86,16 @@ CKRMCUnitConversionData UnitRecord(UnitSystem system, const char* name) {
     return record;
 }
 
+constexpr States kStates[] = {
+    {"offon", "off", "on"}, {"onoff", "on", "off"}, {"noyes", "no", "yes"}, {"yesno", "yes", "no"}};
+
 }  // namespace
+
+const States* FindStates(std::string_view tableUnit) {
+    const auto* const found = std::find_if(std::begin(kStates), std::end(kStates),
+                                           [&](const States& states) { return states.unit == tableUnit; });
+    return found == std::end(kStates) ? nullptr : found;
+}
 
 Genre UnitSettings::GenreOf(std::string_view tableUnit) {
     const TableUnit* const unit = FindUnit(tableUnit);

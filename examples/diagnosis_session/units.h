@@ -37,6 +37,16 @@ struct ShownUnit {
     unsigned char moreDecimals = 0;  ///< than the value itself has, so that its steps are still seen
 };
 
+/// The words of a unit that names two states, for 0 and for 1.
+struct States {
+    std::string_view unit;
+    const char* off;
+    const char* on;
+};
+
+/// Null for a unit that doesn't name two states.
+const States* FindStates(std::string_view tableUnit);
+
 /// The units that values are shown in, as the unit conversion messages choose them.
 class UnitSettings {
 public:
