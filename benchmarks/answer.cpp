@@ -6,40 +6,11 @@
 #include <type_traits>
 #include <vector>
 
+#include "benchmarks/answer_content.h"
 #include "krm/fields/diag/trouble_codes.h"
 
 namespace krm::bench {
 namespace {
-
-struct DispContent {
-    krm_ulong stringId;
-    const char* physText;
-    const char* text;
-    double phys;
-    double value;
-    krm_ulong raw;
-};
-
-struct ItemContent {
-    unsigned short id;
-    const char* name;
-    const char* text;
-    const char* unitPhys;
-    const char* unit;
-    DispContent most;
-    DispContent least;
-    DispContent resolution;
-    DispContent shown;
-    std::vector<DispContent> patterns;
-};
-
-struct CodeContent {
-    krm_ulong code;
-    const char* text;
-    const char* name;
-    const char* comment;
-    std::array<ItemContent, 3> items;
-};
 
 // As a vehicle answers: few texts, short values, names of a phrase's length. Both sides get them as `const char*`, as they
 // come out of a words table.
@@ -91,12 +62,7 @@ const std::vector<CodeContent>& Contents() {
     return contents;
 }
 
-const CodeContent& ContentOf(unsigned variant, int code) {
-    const std::vector<CodeContent>& contents = Contents();
-    return contents[(variant + static_cast<unsigned>(code)) % contents.size()];
-}
-
-// The fillings below are the same field by field: the message's on top, protobuf's under it.
+// benchmarks/proto_answer.cpp fills the same field by field.
 
 void Fill(CKRMCCommandDispData& record, const DispContent& content) {
     record.m_ulDataStringId = content.stringId;
@@ -109,19 +75,6 @@ void Fill(CKRMCCommandDispData& record, const DispContent& content) {
     record.m_chIndex = 2;
     record.m_lIndex = 3;
     record.m_ulDispDataType = 4;
-}
-
-void Fill(proto::DispData& record, const DispContent& content) {
-    record.set_data_string_id(content.stringId);
-    record.set_data_phys_text(content.physText);
-    record.set_data_text(content.text);
-    record.set_data_phys(content.phys);
-    record.set_data(content.value);
-    record.set_raw_data(content.raw);
-    record.set_disp_reserved(1);
-    record.set_short_index(2);
-    record.set_index(3);
-    record.set_disp_data_type(4);
 }
 
 // Appends an empty element and gives it out to be filled in place.
@@ -149,24 +102,6 @@ void Fill(CKRMCCommandConversionData& record, const ItemContent& content) {
     }
 }
 
-void Fill(proto::ConversionData& record, const ItemContent& content) {
-    record.set_mul(5);
-    record.set_div(3);
-    record.set_offset(-40);
-    record.set_genre_id(7);
-    record.set_sign_code(1);
-    record.set_bit_length(16);
-    record.set_conv_reserved(9);
-    record.set_default_pattern("out of the specified range");
-    Fill(*record.mutable_data_max(), content.most);
-    Fill(*record.mutable_data_min(), content.least);
-    Fill(*record.mutable_graph_max(), content.most);
-    Fill(*record.mutable_graph_min(), content.least);
-    for (const DispContent& pattern : content.patterns) {
-        Fill(*record.add_pattern_disp(), pattern);
-    }
-}
-
 void Fill(CKRMCCommandFFDData& record, const ItemContent& content) {
     record.m_ushId = content.id;
     record.m_ulNameId = content.id + 1000U;
@@ -189,31 +124,6 @@ void Fill(CKRMCCommandFFDData& record, const ItemContent& content) {
     record.m_cDataLayout.m_ulByteNum = 2;
     record.m_cDataLayout.m_ulBytePos = 4;
     record.m_cDataLayout.m_ulBitMask = 0xFFFF;
-}
-
-void Fill(proto::FFDData& record, const ItemContent& content) {
-    record.set_id(content.id);
-    record.set_name_id(content.id + 1000U);
-    record.set_name(content.name);
-    record.set_ffd_text(content.text);
-    record.set_unit_phys_id(11);
-    record.set_unit_phys(content.unitPhys);
-    record.set_unit_id(12);
-    record.set_unit(content.unit);
-    record.set_ffd_reserved(13);
-    record.set_data_type(14);
-    record.set_dec_pnt_count(2);
-    record.set_unit_conv_dec_pnt_count(1);
-    Fill(*record.mutable_conversion_tbl(), content);
-    Fill(*record.mutable_resolution_data(), content.resolution);
-    Fill(*record.add_disp_data(), content.shown);
-    proto::DataLayout& layout = *record.mutable_data_layout();
-    layout.set_pid_no(content.id + 2000U);
-    layout.set_data_len(8);
-    layout.set_endian(1);
-    layout.set_byte_num(2);
-    layout.set_byte_pos(4);
-    layout.set_bit_mask(0xFFFF);
 }
 
 void Fill(CKRMCCommandDTCData& record, const CodeContent& content) {
@@ -254,44 +164,6 @@ void Fill(CKRMCCommandDTCData& record, const CodeContent& content) {
     record.m_ulDTCGroupId = 12;
 }
 
-void Fill(proto::DTCData& record, const CodeContent& content) {
-    record.set_dtc_kind(1);
-    record.set_dtc_code(content.code);
-    record.set_dtc(content.text);
-    record.set_dtc_name_id(content.code + 1);
-    record.set_dtc_name(content.name);
-    record.set_dtc_div_name_id(content.code + 2);
-    record.set_dtc_div_name("Powertrain");
-    record.set_ffd_type(3);
-    record.set_ffd_id(4);
-    record.set_comment(content.comment);
-    for (unsigned number = 1; number <= 2; ++number) {
-        record.add_ssr_no(number);
-        record.add_sdr_no(number);
-    }
-    record.set_dtc_type(5);
-    record.set_dtc_type_name_id(6);
-    record.set_dtc_type_name("Emission related");
-    record.set_dtc_type_tool_id(7);
-    record.set_dtc_type_tool("Emission");
-    record.set_dtc_status(8);
-    record.set_dtc_status_name_id(9);
-    record.set_dtc_status_name("Confirmed");
-    record.set_dtc_status_tool_id(10);
-    record.set_dtc_status_tool("Current");
-    record.set_is_trip_time(true);
-    record.set_fail_trip_time(true);
-    Fill(*record.mutable_trip_time(), content.items[0]);
-    record.set_is_after_ig_on_time(true);
-    record.set_fail_after_ig_on_time(true);
-    Fill(*record.mutable_after_ig_on_time(), content.items[1]);
-    record.set_original_count_id(11);
-    Fill(*record.mutable_clock_type(), content.items[2]);
-    record.set_is_status_of_dtc(true);
-    record.set_status_of_dtc(0x2F);
-    record.set_dtc_group_id(12);
-}
-
 void FillHead(Answer& answer) {
     answer.m_bNotSupport = true;
     answer.m_bDTCType = true;
@@ -321,22 +193,15 @@ void AddNeeded(T& it, std::size_t& bytes) {
 
 }  // namespace
 
+const CodeContent& ContentOf(unsigned variant, int code) {
+    const std::vector<CodeContent>& contents = Contents();
+    return contents[(variant + static_cast<unsigned>(code)) % contents.size()];
+}
+
 void Fill(Answer& answer, unsigned variant, int codes) {
     FillHead(answer);
     for (int i = 0; i < codes; ++i) {
         Fill(Append(answer.Data), ContentOf(variant, i));
-    }
-}
-
-void Fill(ProtoAnswer& answer, unsigned variant, int codes) {
-    // A protobuf message has no type and ID of its own: they are fields like any other.
-    answer.set_command_type(1);
-    answer.set_command_id(2);
-    answer.set_not_support(true);
-    answer.set_has_dtc_type(true);
-    answer.set_readyness_status(0x07E5);
-    for (int i = 0; i < codes; ++i) {
-        Fill(*answer.add_data(), ContentOf(variant, i));
     }
 }
 

@@ -1,10 +1,9 @@
-// An answer with trouble codes, as this library's message and as a protobuf message of the same fields and content.
+// An answer with trouble codes.
 #ifndef KRM_BENCHMARKS_ANSWER_H_
 #define KRM_BENCHMARKS_ANSWER_H_
 
 #include <cstddef>
 
-#include "answer.pb.h"
 #include "krm/messages/diag/trouble_codes.h"
 
 namespace krm::bench {
@@ -14,12 +13,10 @@ namespace krm::bench {
 inline constexpr int kCodes = 20;
 
 using Answer = CKRMCGetDTCCmdAdaptDataRcv;
-using ProtoAnswer = krm::bench::proto::GetDTCAnswer;
 
 /// Fills an empty answer field by field: each code is appended empty and filled where it lies, as protobuf does it.
 /// The content differs from code to code, and with `variant`.
 void Fill(Answer& answer, unsigned variant, int codes = kCodes);
-void Fill(ProtoAnswer& answer, unsigned variant, int codes = kCodes);
 
 /// The same content, each code filled in a local record and appended as a copy.
 void FillByCopies(Answer& answer, unsigned variant, int codes = kCodes);

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <string>
 
-#include "benchmarks/answer.h"
+#include "benchmarks/proto_answer.h"
 #include "benchmarks/workload.h"
 #include "krm/fields/diag/trouble_codes.h"
 

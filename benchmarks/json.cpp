@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "benchmarks/answer.h"
+#include "benchmarks/answer_passes.h"
+#include "benchmarks/proto_answer.h"
 #include "benchmarks/workload.h"
 
 namespace krm::bench {
@@ -37,9 +38,7 @@ bool Read(const std::string& text, ProtoAnswer*) {
 
 template <class Message>
 void Write(benchmark::State& state) {
-    std::vector<Message> answers(2);
-    Fill(answers[0], 0);
-    Fill(answers[1], 7);
+    std::vector<Message> answers = TwoAnswers<Message>();
     if (Text(answers[0]).empty()) {
         state.SkipWithError("no text");
     }

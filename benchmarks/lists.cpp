@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "benchmarks/list_operations.h"
 #include "benchmarks/workload.h"
 #include "krm/core/list.h"
 #include "krm/messages/diag/display.h"
@@ -58,24 +59,6 @@ krm_ulong ValueOf(const CKRMString& element) {
 }
 krm_ulong ValueOf(const CKRMCCommandDispData& element) {
     return element.m_ulRawData;
-}
-
-template <class T>
-void Append(CKRMList<T>& list, const T& element) {
-    list.AddTail(element);
-}
-template <class T>
-void Append(std::list<T>& list, const T& element) {
-    list.push_back(element);
-}
-
-template <class T>
-void Empty(CKRMList<T>& list) {
-    list.RemoveAll();
-}
-template <class T>
-void Empty(std::list<T>& list) {
-    list.clear();
 }
 
 template <class List, class T>

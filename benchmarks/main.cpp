@@ -8,10 +8,12 @@
 #include <string>
 #include <string_view>
 
+#include "benchmarks/heap.h"
 #include "benchmarks/table.h"
 #include "benchmarks/workload.h"
 
 int main(int argc, char** argv) {
+    krm::bench::KeepPages();
     krm::bench::RegisterConverters();
     krm::bench::RegisterMessages();
     krm::bench::RegisterJson();
@@ -20,6 +22,7 @@ int main(int argc, char** argv) {
     krm::bench::RegisterLists();
     krm::bench::RegisterTrees();
     krm::bench::RegisterMemory();
+    krm::bench::RegisterTick();
     krm::bench::RegisterSession();
     krm::bench::RegisterGrowth();
     krm::bench::RegisterRecordingGrowth();

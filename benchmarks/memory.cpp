@@ -2,7 +2,7 @@
 #include <list>
 
 #include "benchmarks/allocation.h"
-#include "benchmarks/answer.h"
+#include "benchmarks/proto_answer.h"
 #include "benchmarks/workload.h"
 
 namespace krm::bench {

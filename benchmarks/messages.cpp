@@ -5,30 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "benchmarks/answer.h"
+#include "benchmarks/answer_passes.h"
+#include "benchmarks/proto_answer.h"
 #include "benchmarks/workload.h"
 
 namespace krm::bench {
 namespace {
-
-template <class Message>
-Message Filled(unsigned variant) {
-    Message message;
-    Fill(message, variant);
-    return message;
-}
-
-/// Construction of a copy, and its destruction: whoever copies an answer destroys the copy some day.
-template <class Message>
-void Copy(benchmark::State& state) {
-    const std::vector<Message> originals = {Filled<Message>(0), Filled<Message>(7)};
-    std::size_t i = 0;
-    for (auto _ : state) {
-        Message copy(originals[i++ % originals.size()]);
-        benchmark::DoNotOptimize(copy);
-        benchmark::ClobberMemory();
-    }
-}
 
 template <class Message, auto fill>
 void Build(benchmark::State& state) {
@@ -54,35 +36,8 @@ void ClearAndRefill(benchmark::State& state) {
     }
 }
 
-struct Counter {
-    std::size_t lines = 0;
-    std::size_t bytes = 0;
-};
-
-krm_long Count(void* context, const char* text, krm_ulong textLength, int, int) {
-    auto& counter = *static_cast<Counter*>(context);
-    benchmark::DoNotOptimize(text);
-    ++counter.lines;
-    counter.bytes += textLength;
-    return 0;
-}
-
-void Dump(benchmark::State& state) {
-    std::vector<Answer> answers = {Filled<Answer>(0), Filled<Answer>(7)};  // of as many lines
-    Counter counter;
-    KRMC_ER_SetOperationLogSink(&Count, &counter);
-    answers[0].ErrWriteOperationLog();
-    state.counters[kLines] = static_cast<double>(counter.lines);
-    std::size_t i = 0;
-    for (auto _ : state) {
-        answers[i++ % answers.size()].ErrWriteOperationLog();
-        benchmark::DoNotOptimize(counter.bytes);
-    }
-    KRMC_ER_SetOperationLogSink(nullptr, nullptr);
-}
-
 void PrintToString(benchmark::State& state) {
-    const std::vector<ProtoAnswer> answers = {Filled<ProtoAnswer>(0), Filled<ProtoAnswer>(7)};
+    const std::vector<ProtoAnswer> answers = TwoAnswers<ProtoAnswer>();
     std::string text;
     google::protobuf::TextFormat::PrintToString(answers[0], &text);
     state.counters[kLines] = static_cast<double>(std::count(text.begin(), text.end(), '\n'));
@@ -95,18 +50,18 @@ void PrintToString(benchmark::State& state) {
 }
 
 constexpr auto kFill = static_cast<void (*)(Answer&, unsigned, int)>(&Fill);
-constexpr auto kFillProto = static_cast<void (*)(ProtoAnswer&, unsigned, int)>(&Fill);
+constexpr auto kFillProto = static_cast<void (*)(ProtoAnswer&, unsigned, int)>(&proto::Fill);
 
 }  // namespace
 
 void RegisterMessages() {
     const std::string answer = "answer with 20 trouble codes: ";
-    Compare(answer + "copy", Copy<Answer>, {{"protobuf", Copy<ProtoAnswer>, 0.8}});
+    Compare(answer + "copy", Timed(&CopyAnswer<Answer>), {{"protobuf", Timed(&CopyAnswer<ProtoAnswer>), 0.8}});
     Compare(answer + "build field by field", Build<Answer, kFill>, {{"protobuf", Build<ProtoAnswer, kFillProto>, 1.0}});
     Compare(answer + "build by appending filled records", Build<Answer, &FillByCopies>,
             {{"protobuf", Build<ProtoAnswer, kFillProto>}});
     Compare(answer + "clear and refill", ClearAndRefill<Answer>, {{"protobuf", ClearAndRefill<ProtoAnswer>, 1.0}});
-    Compare(answer + "dump", Dump, {{"protobuf TextFormat", PrintToString, 0.5}});
+    Compare(answer + "dump", Timed(&DumpAnswer), {{"protobuf TextFormat", PrintToString, 0.35}});
 }
 
 }  // namespace krm::bench

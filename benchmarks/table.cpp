@@ -87,10 +87,13 @@ void TableReporter::ReportRuns(const std::vector<Run>& runs) {
         }
         const std::string name = run.run_name.function_name;
         const bool grows = std::find(Growths().begin(), Growths().end(), name) != Growths().end();
+        const bool spreads = std::find(Spreads().begin(), Spreads().end(), name) != Spreads().end();
         if (run.report_rms) {
             m_growths[name].rms = run.GetAdjustedCPUTime();
         } else if (run.report_big_o || run.run_type != Run::RT_Iteration) {
             continue;
+        } else if (spreads) {
+            m_spreads[name][run.threads].push_back(run.counters.at("items_per_second").value);
         } else if (grows) {
             m_growths[name].nanoseconds[run.complexity_n].push_back(TimeOf(run));
         } else {
@@ -182,10 +185,36 @@ void TableReporter::PrintGrowths(std::ostream& out) const {
     out << '\n';
 }
 
+void TableReporter::PrintSpreads(std::ostream& out) const {
+    if (m_spreads.empty()) {
+        return;
+    }
+    out << fmt::format(
+               "What several threads get done in a second on {} processors, each on objects of its own, and how many "
+               "times as much as one:\n\n",
+               benchmark::CPUInfo::Get().num_cpus)
+        << "| work | 1 thread | 2 threads | 4 threads | 8 threads |\n|---|---:|---:|---:|---:|\n";
+    for (const std::string& name : Spreads()) {
+        const auto spread = m_spreads.find(name);
+        if (spread == m_spreads.end()) {
+            continue;
+        }
+        out << "| " << name;
+        const double alone = Median(spread->second.begin()->second);
+        for (const auto& [threads, perSecond] : spread->second) {
+            const double all = Median(perSecond);
+            out << fmt::format(" | {:.0f}", all) << (threads == 1 ? "" : fmt::format(" ({:.2f})", all / alone));
+        }
+        out << " |\n";
+    }
+    out << '\n';
+}
+
 void TableReporter::Print(std::ostream& out) const {
     PrintMachine(out);
     PrintWorkloads(out);
     PrintGrowths(out);
+    PrintSpreads(out);
 }
 
 }  // namespace krm::bench

@@ -20,9 +20,10 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override;
 
     /// Whether a benchmark reported an error, or none ran.
-    bool Failed() const { return m_failed || (m_sides.empty() && m_growths.empty()); }
+    bool Failed() const { return m_failed || (m_sides.empty() && m_growths.empty() && m_spreads.empty()); }
 
-    /// Writes, in Markdown: the machine, the table of workloads and that of growth. Workloads that didn't run are left out.
+    /// Writes, in Markdown: the machine, the tables of workloads, of growth and of threads. Workloads that didn't run are
+    /// left out.
     void Print(std::ostream& out) const;
 
 private:
@@ -37,12 +38,17 @@ private:
         double rms = 0;                                           // distance from linear growth, as a share
     };
 
+    /// What several threads get done together in a second, by their number; one for each repetition.
+    using Spread = std::map<std::int64_t, std::vector<double>>;
+
     void PrintWorkloads(std::ostream& out) const;
     void PrintGrowths(std::ostream& out) const;
+    void PrintSpreads(std::ostream& out) const;
     static std::string Shown(const Side& side);
 
     std::map<std::string, Side> m_sides;
     std::map<std::string, Growth> m_growths;
+    std::map<std::string, Spread> m_spreads;
     bool m_failed = false;
 };
 

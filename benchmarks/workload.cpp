@@ -4,12 +4,14 @@
 #include <time.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace krm::bench {
 namespace {
 
 std::vector<Workload> g_workloads;
 std::vector<std::string> g_growths;
+std::vector<std::string> g_spreads;
 
 /// Before each repetition the allocator joins its free blocks again: else a list would get the blocks in the order in which
 /// the benchmark before left them, and the order of the benchmarks would decide.
@@ -21,6 +23,24 @@ Function OnOrderlyHeap(const Function& run) {
 }
 
 }  // namespace
+
+Function Timed(const MakePass& make) {
+    return [make](benchmark::State& state) {
+        Pass pass;
+        try {
+            pass = make();
+        } catch (const std::runtime_error& error) {
+            state.SkipWithError(error.what());
+            return;
+        }
+        if (pass.lines != 0) {
+            state.counters[kLines] = pass.lines;
+        }
+        while (state.KeepRunningBatch(static_cast<benchmark::IterationCount>(pass.operations))) {
+            pass.run();
+        }
+    };
+}
 
 double ThreadSeconds() {
     timespec now{};
@@ -74,6 +94,16 @@ void Grow(const std::string& name, const Function& run, int from, int to) {
         ->Range(from, to)
         ->Complexity(benchmark::oN);
     g_growths.push_back(name);
+}
+
+const std::vector<std::string>& Spreads() {
+    return g_spreads;
+}
+
+void Spread(const std::string& name, const Function& run) {
+    constexpr int kMostThreads = 8;
+    benchmark::RegisterBenchmark(name.c_str(), run)->ThreadRange(1, kMostThreads)->UseRealTime();
+    g_spreads.push_back(name);
 }
 
 }  // namespace krm::bench

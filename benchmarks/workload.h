@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "benchmarks/pass.h"
+
 namespace krm::bench {
 
 using Function = std::function<void(benchmark::State&)>;
@@ -49,6 +51,9 @@ enum class Clock {
 void Compare(const std::string& name, const Function& library, const std::vector<Peer>& peers,
              Clock clock = Clock::Processor);
 
+/// The function of a pass that undoes nothing; an iteration is one operation of it.
+Function Timed(const MakePass& make);
+
 /// The processor time of this thread, in seconds.
 double ThreadSeconds();
 /// What two calls of ThreadSeconds() with nothing between them differ by: some hundred nanoseconds.
@@ -74,6 +79,13 @@ const std::vector<std::string>& Growths();
 /// size in `state.range(0)`.
 void Grow(const std::string& name, const Function& run, int from, int to);
 
+/// Names of the benchmarks that are run by several threads, in the order of their registration.
+const std::vector<std::string>& Spreads();
+
+/// Adds work that 1, 2, 4 and 8 threads do at a time, each on objects of its own. The table shows how much they get done
+/// together, in items as `run` counts them, by the clock on the wall.
+void Spread(const std::string& name, const Function& run);
+
 // One per area; main() calls them in the order of the table.
 void RegisterConverters();
 void RegisterMessages();
@@ -83,6 +95,7 @@ void RegisterRecordings();
 void RegisterLists();
 void RegisterTrees();
 void RegisterMemory();
+void RegisterTick();
 void RegisterSession();
 void RegisterGrowth();
 void RegisterRecordingGrowth();
