@@ -1,4 +1,4 @@
-// What is timed, whoever times it.
+// What is timed, whoever times it: Google Benchmark where it is installed, benchmarks/measure.h on every platform.
 #ifndef KRM_BENCHMARKS_PASS_H_
 #define KRM_BENCHMARKS_PASS_H_
 

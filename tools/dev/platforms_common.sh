@@ -38,7 +38,7 @@ run_on() (
     shift 2
     cd "build/$platform" || exit
     case $platform in
-        windows-*) exec "$KRM_WINE" "bin/$program.exe" "$@" ;;
+        *windows-*) exec "$KRM_WINE" "bin/$program.exe" "$@" ;;
         linux-arm64) exec qemu-aarch64 -L /usr/aarch64-linux-gnu "bin/$program" "$@" ;;
         linux-s390x) exec qemu-s390x -L /usr/s390x-linux-gnu "bin/$program" "$@" ;;
         *) exec "bin/$program" "$@" ;;
