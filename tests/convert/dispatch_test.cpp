@@ -11,7 +11,7 @@ namespace {
 
 using Base = CKRMCCommandConvSignalData;
 
-constexpr krm_ulong kOther = 77;  // a code that only a subclass returns
+constexpr krm_ulong kOther = 0x12345678;  // a code that only a subclass returns, in all of its 32 bits
 
 // A converter whose steps can be told to answer for themselves; it notes every call.
 template <class Kind>
@@ -376,7 +376,7 @@ TEST(Dispatch, TextsUseAnOverriddenNumberFormat) {
 TEST(Dispatch, TextsPassOnTheNumberFormatsStatus) {
     const auto check = [](auto&& converter) {
         converter.textStatus = kOther;
-        EXPECT_EQ(RawText(converter, 5), "status 77");
+        EXPECT_EQ(RawText(converter, 5), "status 305419896");
     };
     check(Scripted<Base>());
     check(Scripted<CKRMCCommandConvSignalDataHex>());
