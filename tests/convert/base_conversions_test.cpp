@@ -295,10 +295,8 @@ TEST_F(BaseConversions, NaNAndInfinitiesAsText) {
         const auto places = static_cast<unsigned char>(decimals);
         EXPECT_EQ(Decimal(kInfinity, places), "inf");
         EXPECT_EQ(Decimal(-kInfinity, places), "-inf");
-        const std::string nan = Decimal(kNaN, places);
-        EXPECT_TRUE(nan == "nan" || nan == "-nan") << nan;
-        const std::string negative = Decimal(std::copysign(kNaN, -1.0), places);
-        EXPECT_TRUE(negative == "nan" || negative == "-nan") << negative;
+        EXPECT_EQ(Decimal(std::copysign(kNaN, 1.0), places), "nan");
+        EXPECT_EQ(Decimal(std::copysign(kNaN, -1.0), places), "-nan");
     }
 }
 

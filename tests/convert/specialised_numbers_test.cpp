@@ -247,11 +247,16 @@ TEST(InclineValue, IsClampedTo100Percent) {
 TEST(InclineValue, BeyondTheVerticalIsNotANumber) {
     EXPECT_TRUE(std::isnan(ValueBy(102, 99)));
     EXPECT_TRUE(std::isnan(ValueBy(102, 0x80 | 99, {.sign = 3})));
-    CKRMCCommandDispData record;
-    EXPECT_EQ(Arguments({}).Raw(*Create(102), &record, 99), 0U);
-    EXPECT_TRUE(std::isnan(record.m_dDataPhys));
-    EXPECT_TRUE(record.m_strDataPhys.Compare("nan") == 0 || record.m_strDataPhys.Compare("-nan") == 0)
-        << record.m_strDataPhys.GetText();
+    // Uphill and downhill alike, and without a sign on every platform.
+    for (const Item& item : {Item{.sign = 3}, Item{.sign = 3, .mul = 100, .decimals = 2}}) {
+        for (const krm_ulong raw : {99U, 0x80U | 99U}) {
+            CKRMCCommandDispData record;
+            EXPECT_EQ(Arguments(item).Raw(*Create(102), &record, raw), 0U);
+            EXPECT_TRUE(std::isnan(record.m_dDataPhys));
+            EXPECT_FALSE(std::signbit(record.m_dDataPhys));
+            EXPECT_STREQ(record.m_strDataPhys.GetText(), "nan");
+        }
+    }
 }
 
 TEST(Special2Value, FallsFrom11Point515) {
