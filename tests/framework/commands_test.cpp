@@ -67,8 +67,8 @@ TEST(CommandsTest, IdsAndNamesAreUniqueWithinAFamily) {
 
 TEST(CommandsTest, GapsHaveNoCommand) {
     const std::pair<krm_ulong, krm_ulong> gaps[] = {
-        {0, 0}, {0, 2},  {1, 0},  {1, 1},  {1, 3}, {1, 128}, {1, 0xFFFFFFFFU}, {2, 0},          {2, 6},
-        {8, 3}, {10, 6}, {14, 0}, {14, 3}, {3, 1}, {9, 1},   {15, 1},          {0xFFFFFFFFU, 2}};
+        {0, 0},  {0, 2},  {1, 0},  {1, 1}, {1, 3}, {1, 128}, {1, 0xFFFFFFFFU}, {2, 0},       {2, 6},      {8, 3},
+        {10, 6}, {14, 0}, {14, 3}, {3, 1}, {9, 1}, {15, 1},  {0xFFFFFFFFU, 2}, {0x10001, 2}, {1, 0x10002}};
     for (const auto& [type, id] : gaps) {
         EXPECT_EQ(krm::FindCommand(type, id), nullptr) << type << ' ' << id;
     }

@@ -14,6 +14,7 @@
 #include "krm/messages/diag/trouble_codes.h"
 #include "krm/messages/diag/vehicle.h"
 #include "krm/platform/platform.h"
+#include "tests/framework/log_results.h"
 #include "tests/support/keeping_sink.h"
 #include "tests/support/log_sink.h"
 
@@ -213,6 +214,22 @@ TEST(TeeLogTest, WritesToBothAndReturnsTheFirstFailure) {
     krm::TeeLog three(both, third);
     EXPECT_EQ(three.Write("w", 4, 2), 3);
     EXPECT_THAT(third.lines, ElementsAre("w|4|2"));
+}
+
+TEST(LogSinksTest, EveryResultComesBackWhole) {
+    for (const krm_long result : krm::test::kLogResults) {
+        KeepingSink good;
+        KeepingSink bad;
+        bad.result = result;
+        krm::TeeLog badFirst(bad, good);
+        krm::TeeLog badSecond(good, bad);
+        const LogTo scope(badSecond);
+        EXPECT_EQ(badFirst.Write("x", 4, 2), result);
+        EXPECT_EQ(badSecond.Write("x", 4, 2), result);
+        EXPECT_EQ(krm::WriteToSink<KeepingSink>(&bad, "xy", 2, 4, 2), result);
+        EXPECT_EQ(KRMC_ER_WriteOperationLog("xyz", 3, 4, 2), result);
+        EXPECT_THAT(bad.lines, ElementsAre("x|4|2", "x|4|2", "xy|4|2", "xyz|4|2"));
+    }
 }
 
 TEST(LogTextTest, EscapesLineBreaksSoThatTheyCanBeRead) {

@@ -14,6 +14,7 @@
 #include "krm/messages/auxiliary/unit_conversion.h"
 #include "krm/messages/diag/display.h"
 #include "krm/messages/diag/trouble_codes.h"
+#include "tests/framework/log_results.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/not_under.h"
 
@@ -240,10 +241,10 @@ TEST(MessageBaseTest, LinesOfTheWordsTableBases) {
 }
 
 template <class Base>
-void ExpectLineIsFormattedAndWritten() {
-    const LogCapture log(-12345);
+void ExpectLineIsFormattedAndWritten(krm_long result) {
+    const LogCapture log(result);
     Base base;
-    EXPECT_EQ(base.ER_WriteOperationLogFormat("[%s] m_ulEcuId=%d", "100%s", -1), -12345);
+    EXPECT_EQ(base.ER_WriteOperationLogFormat("[%s] m_ulEcuId=%d", "100%s", -1), result);
     ASSERT_THAT(log.Lines(), SizeIs(1));
     EXPECT_EQ(log.Lines()[0].text, "[100%s] m_ulEcuId=-1");
     EXPECT_EQ(log.Lines()[0].length, 20U);
@@ -255,10 +256,12 @@ void ExpectLineIsFormattedAndWritten() {
 }
 
 TEST(MessageBaseTest, OneLineIsFormattedAndWrittenWithFourAndTwo) {
-    ExpectLineIsFormattedAndWritten<CKRMCBaseCmdAdaptData>();
-    ExpectLineIsFormattedAndWritten<CKRMCBaseDsdiAdaptData>();
-    ExpectLineIsFormattedAndWritten<CKRMCBaseUccAdaptData>();
-    ExpectLineIsFormattedAndWritten<CKRMCBaseDwtAdaptData>();
+    for (const krm_long result : krm::test::kLogResults) {
+        ExpectLineIsFormattedAndWritten<CKRMCBaseCmdAdaptData>(result);
+        ExpectLineIsFormattedAndWritten<CKRMCBaseDsdiAdaptData>(result);
+        ExpectLineIsFormattedAndWritten<CKRMCBaseUccAdaptData>(result);
+        ExpectLineIsFormattedAndWritten<CKRMCBaseDwtAdaptData>(result);
+    }
 }
 
 TEST(MessageBaseTest, CommandTypeAndIdAreLoggedAsSignedNumbers) {
@@ -450,15 +453,17 @@ TEST(MessageTest, FamiliesWithoutAMemberWriteTwoLinesBeforeTheirOwn) {
 }
 
 TEST(MessageTest, ReturnsZeroWhenEveryLineFails) {
-    const LogCapture log(-1);
-    Answer answer;
-    answer.Data.AddTail(CKRMCCommandDataLayout());
-    EXPECT_EQ(answer.ErrWriteOperationLog(), 0);
-    EXPECT_THAT(log.Lines(), SizeIs(4 + 6));
-    for (const LogCapture::Line& line : log.Lines()) {
-        EXPECT_EQ(line.length, line.text.size());
-        EXPECT_EQ(line.first, 4);
-        EXPECT_EQ(line.second, 2);
+    for (const krm_long result : krm::test::kLogResults) {
+        const LogCapture log(result);
+        Answer answer;
+        answer.Data.AddTail(CKRMCCommandDataLayout());
+        EXPECT_EQ(answer.ErrWriteOperationLog(), 0);
+        EXPECT_THAT(log.Lines(), SizeIs(4 + 6));
+        for (const LogCapture::Line& line : log.Lines()) {
+            EXPECT_EQ(line.length, line.text.size());
+            EXPECT_EQ(line.first, 4);
+            EXPECT_EQ(line.second, 2);
+        }
     }
 }
 

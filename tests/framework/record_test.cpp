@@ -14,6 +14,7 @@
 #include "krm/framework/dump.h"
 #include "krm/messages/diag/display.h"
 #include "krm/messages/diag/trouble_codes.h"
+#include "tests/framework/log_results.h"
 #include "tests/support/log_capture.h"
 
 namespace {
@@ -167,14 +168,16 @@ TEST(RecordTest, TheBasesClearDoesNothing) {
 }
 
 TEST(RecordTest, OneLineIsFormattedAndWrittenWithFourAndTwo) {
-    const LogCapture log(-12345);
-    Leaf leaf;
-    EXPECT_EQ(leaf.ER_WriteOperationLogFormatStructure("%s.m_ulEcuId=%d", "P", 5), -12345);
-    ASSERT_EQ(log.Lines().size(), 1U);
-    EXPECT_EQ(log.Lines()[0].text, "P.m_ulEcuId=5");
-    EXPECT_EQ(log.Lines()[0].length, 13U);
-    EXPECT_EQ(log.Lines()[0].first, 4);
-    EXPECT_EQ(log.Lines()[0].second, 2);
+    for (const krm_long result : krm::test::kLogResults) {
+        const LogCapture log(result);
+        Leaf leaf;
+        EXPECT_EQ(leaf.ER_WriteOperationLogFormatStructure("%s.m_ulEcuId=%d", "P", 5), result);
+        ASSERT_EQ(log.Lines().size(), 1U);
+        EXPECT_EQ(log.Lines()[0].text, "P.m_ulEcuId=5");
+        EXPECT_EQ(log.Lines()[0].length, 13U);
+        EXPECT_EQ(log.Lines()[0].first, 4);
+        EXPECT_EQ(log.Lines()[0].second, 2);
+    }
 }
 
 TEST(RecordTest, EveryLineOfADumpHasItsLengthAndFourAndTwo) {
@@ -227,11 +230,13 @@ TEST(RecordTest, LinesAreNeverCut) {
 }
 
 TEST(RecordTest, ReturnsZeroWhenEveryLineFails) {
-    const LogCapture log(-1);
-    Tree tree;
-    tree.m_cBranchList.AddTail(Branch());
-    EXPECT_EQ(tree.ErrWriteOperationLogStructure("%s", "P"), 0);
-    EXPECT_EQ(log.Lines().size(), 6U);
+    for (const krm_long result : krm::test::kLogResults) {
+        const LogCapture log(result);
+        Tree tree;
+        tree.m_cBranchList.AddTail(Branch());
+        EXPECT_EQ(tree.ErrWriteOperationLogStructure("%s", "P"), 0);
+        EXPECT_EQ(log.Lines().size(), 6U);
+    }
 }
 
 TEST(RecordTest, EveryKindOfFieldAtItsLimits) {
