@@ -389,6 +389,41 @@ TEST(RemoveAttribute, OfTheSecondLeavesTheFirstLinkedToTheThird) {
     EXPECT_EQ(AddressOf(element->LastAttribute()), addressOfThird);
 }
 
+// A removed node is out of its chain before it goes: its follower leads back past it to the node in front, or to nothing.
+
+/// Removes a node that has a follower: from behind another node, and from the head of its chain.
+template <class Node, class Holder, class Remove>
+void ExpectTheFollowerLeadsPast(Remove remove) {
+    for (const bool isFirst : {false, true}) {
+        std::vector<const CKRMCNode*> seen;
+        Undestroyed<Holder> holder("E");
+        Undestroyed<Node> front("A");
+        auto* const removed = new LooksBack<Node>("B", seen);
+        if (!isFirst) {
+            holder->Adopt(&*front);
+        }
+        holder->Adopt(removed);
+        holder->Adopt(new Node("C"));
+        EXPECT_TRUE(remove(*holder, removed));
+        EXPECT_THAT(seen, ElementsAre(isFirst ? nullptr : &*front));
+    }
+}
+
+TEST(RemoveAttribute, TheFollowerLeadsPastTheDyingNode) {
+    ExpectTheFollowerLeadsPast<CKRMCAttribute, OwnElement>(
+        [](OwnElement& element, CKRMCAttribute* attribute) { return element.RemoveAttribute(nullptr, attribute); });
+}
+
+TEST(RemoveElementGroup, TheFollowerLeadsPastTheDyingNode) {
+    ExpectTheFollowerLeadsPast<CKRMCElementGroup, OwnElement>(
+        [](OwnElement& element, CKRMCElementGroup* group) { return element.RemoveElementGroup(nullptr, group); });
+}
+
+TEST(RemoveElement, TheFollowerLeadsPastTheDyingNode) {
+    ExpectTheFollowerLeadsPast<CKRMCElement, OwnGroup>(
+        [](OwnGroup& group, CKRMCElement* element) { return group.RemoveElement(nullptr, element); });
+}
+
 TEST(RemoveElementGroup, DestroysItsElements) {
     RecordingError error;
     std::vector<std::string> destroyed;

@@ -64,6 +64,17 @@ private:
     std::vector<std::string>& m_destroyed;
 };
 
+/// A node that looks, while it is destroyed, where its follower's link back leads.
+template <class Node>
+class LooksBack : public Node {
+public:
+    LooksBack(const char* name, std::vector<const CKRMCNode*>& seen) : Node(name), m_seen(seen) {}
+    ~LooksBack() override { m_seen.push_back(this->GetNext()->GetPrev()); }
+
+private:
+    std::vector<const CKRMCNode*>& m_seen;
+};
+
 /// An element that takes nodes of a user's own.
 class OwnElement : public CKRMCElement {
 public:
