@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <map>
+#include <tuple>
 
 #include "json_document.h"
 
@@ -68,8 +70,10 @@ void CheckDoubles(const JsonValue& object) {
     for (const JsonMember& member : object.members) {
         members.push_back(&member);
     }
-    std::stable_sort(members.begin(), members.end(),
-                     [](const JsonMember* left, const JsonMember* right) { return left->name < right->name; });
+    // Of one name twice, the first in the document first.
+    std::sort(members.begin(), members.end(), [](const JsonMember* left, const JsonMember* right) {
+        return std::tie(left->name, left) < std::tie(right->name, right);
+    });
     const auto twice =
         std::adjacent_find(members.begin(), members.end(),
                            [](const JsonMember* left, const JsonMember* right) { return left->name == right->name; });
@@ -149,7 +153,7 @@ bool Flag(const JsonValue& object, const char* name) {
 /// {"0": {"value": "OFF"}, "1": {"value": "ON"}}
 std::vector<std::pair<std::uint32_t, std::string>> ReadMap(const JsonValue& map) {
     CheckDoubles(map);
-    std::vector<std::pair<std::uint32_t, std::string>> entries;
+    std::multimap<std::uint32_t, std::string> entries;  // "1" and "01" are two keys
     for (const auto& [key, place, entry] : map.members) {
         std::uint32_t raw = 0;
         const auto [end, error] = std::from_chars(key.data(), key.data() + key.size(), raw);
@@ -161,11 +165,9 @@ std::vector<std::pair<std::uint32_t, std::string>> ReadMap(const JsonValue& map)
         }
         CheckDoubles(entry);
         CheckMembers(entry, kMapEntryObject);
-        entries.emplace_back(raw, Text(entry, "value", nullptr));
+        entries.emplace(raw, Text(entry, "value", nullptr));
     }
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const auto& left, const auto& right) { return left.first < right.first; });
-    return entries;
+    return {entries.begin(), entries.end()};
 }
 
 Item ReadItem(const JsonValue& signal) {
