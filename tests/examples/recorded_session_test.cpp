@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/not_under.h"
 #include "tests/support/session_run.h"
 
 namespace {
@@ -67,6 +68,7 @@ TEST_F(RecordedSession, GivesTheSameInOtherUnits) {
 }
 
 TEST_F(RecordedSession, GivesTheSameOfRecordedVehicles) {
+    KRM_NOT_UNDER(Memcheck, "it would take minutes");
     const std::filesystem::path folder = KRM_TEST_DATA_DIR "/obd";
     ExpectTheSame({(folder / "recorded.log").string(), (folder / "items.json").string()}, 0);
 }

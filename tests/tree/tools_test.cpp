@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "tests/support/failing_allocation.h"
+#include "tests/support/not_under.h"
 #include "tests/support/small_stack.h"
 #include "tests/tree/own_nodes.h"
 
@@ -318,6 +319,7 @@ TEST(TreeTools, LeaveNothingBehindWithoutMemory) {
 }
 
 TEST(TreeTools, NeedNoStackForManySiblingsOrLevels) {
+    KRM_NOT_UNDER(Memcheck, "it would take minutes");
     constexpr int kMany = 200'000;
     RunOnSmallStack([] {
         for (const bool deep : {false, true}) {
