@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <optional>
 #include <random>
 #include <tuple>
 
@@ -62,18 +61,22 @@ int DigitAt(std::string_view text, std::size_t at) {
     const char c = at < text.size() ? Upper(text[at]) : '\0';
     return IsDigit(c) ? c - '0' : c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
 }
-/// The byte that two digits stand for.
-std::optional<char> ByteAt(std::string_view text, std::size_t at) {
+/// What ByteAt gives where there is none.
+constexpr int kNoByte = -1;
+/// The byte, 0 to 255, that two digits stand for.
+int ByteAt(std::string_view text, std::size_t at) {
     const int high = DigitAt(text, at);
     const int low = DigitAt(text, at + 1);
-    return high >= 0 && low >= 0 ? std::optional(static_cast<char>(static_cast<unsigned char>(high * 16 + low)))
-                                 : std::nullopt;
+    return high >= 0 && low >= 0 ? high * 16 + low : kNoByte;
+}
+char CharOf(int byte) {
+    return static_cast<char>(static_cast<unsigned char>(byte));
 }
 /// Where the byte behind the one at `at` begins: next to it, or behind separators and a mark, as in "4B, 0x52" and
-/// "4Bh 52h".
-std::optional<std::size_t> NextByte(std::string_view text, std::size_t at) {
+/// "4Bh 52h". npos where there is none.
+std::size_t NextByte(std::string_view text, std::size_t at) {
     std::size_t next = at + 2;
-    if (ByteAt(text, next)) {
+    if (ByteAt(text, next) != kNoByte) {
         return next;
     }
     const auto isAt = [&](std::size_t place, char upper) { return place < text.size() && Upper(text[place]) == upper; };
@@ -83,23 +86,23 @@ std::optional<std::size_t> NextByte(std::string_view text, std::size_t at) {
         ++next;
     }
     next += isAt(next, '0') && isAt(next + 1, 'X') ? 2U : isAt(next, 'X') ? 1U : 0U;
-    return ByteAt(text, next) ? std::optional(next) : std::nullopt;
+    return ByteAt(text, next) != kNoByte ? next : std::string_view::npos;
 }
 
 /// The bytes that the digits from `at` on stand for, as far as they go; sets `at` behind the last.
 std::string TakeHex(std::string_view text, std::size_t& at) {
     std::string bytes;
-    for (std::optional<std::size_t> place = at; place; place = NextByte(text, *place)) {
-        bytes += *ByteAt(text, *place);
-        at = *place + 2;
+    for (std::size_t place = at; place != std::string_view::npos; place = NextByte(text, place)) {
+        bytes += CharOf(ByteAt(text, place));
+        at = place + 2;
     }
     return bytes;
 }
 /// The same as far as there is nothing between the bytes.
 std::string TakeCloseHex(std::string_view text, std::size_t at) {
     std::string bytes;
-    for (std::optional<char> byte; (byte = ByteAt(text, at)); at += 2) {
-        bytes += *byte;
+    for (int byte = 0; (byte = ByteAt(text, at)) != kNoByte; at += 2) {
+        bytes += CharOf(byte);
     }
     return bytes;
 }
@@ -231,7 +234,7 @@ void Values::AddVins(std::string_view bytes) {
     // As bytes with something between, and as digits close together, which may begin in the middle of a byte.
     for (std::size_t start = 0; start < bytes.size();) {
         std::size_t end = start + 1;
-        if (ByteAt(bytes, start)) {
+        if (ByteAt(bytes, start) != kNoByte) {
             addWords(TakeHex(bytes, end = start));
         }
         start = end;
@@ -254,29 +257,32 @@ std::vector<Values::Match> Values::Find(std::string_view bytes) const {
     if (m_known.empty()) {
         return matches;
     }
-    // What the bytes, one after the other by `next`, begin with.
+    // What the bytes, one after the other by `next`, begin with. There is no byte at npos.
     const auto find = [&](std::size_t start, bool isHex, auto byteAt, auto next) {
         std::uint32_t begin = 0;
-        std::optional<std::size_t> place = start;
+        std::size_t place = start;
         for (std::size_t i = 0; i < kStart; ++i) {
-            const std::optional<char> byte = place ? byteAt(*place) : std::nullopt;
-            if (!byte) {
+            const int byte = byteAt(place);
+            if (byte == kNoByte) {
                 return;
             }
-            begin = begin << 8U | static_cast<unsigned char>(Upper(*byte));
-            place = next(*place);
+            begin = begin << 8U | static_cast<unsigned char>(Upper(CharOf(byte)));
+            place = next(place);
         }
         const auto found = m_byStart.find(begin);
         if (found == m_byStart.end()) {
             return;
         }
         for (const std::size_t known : found->second) {
-            std::optional<std::size_t> at = place;
+            std::size_t at = place;
             const std::string_view rest = std::string_view(m_known[known].value).substr(kStart);
             const bool isThere = std::ranges::all_of(rest, [&](char c) {
-                const std::optional<char> byte = at ? byteAt(*at) : std::nullopt;
-                at = byte ? next(*at) : std::nullopt;
-                return byte && Upper(*byte) == c;
+                const int byte = byteAt(at);
+                if (byte == kNoByte || Upper(CharOf(byte)) != c) {
+                    return false;
+                }
+                at = next(at);
+                return true;
             });
             if (isThere) {
                 matches.push_back({known, start, isHex});
@@ -285,8 +291,9 @@ std::vector<Values::Match> Values::Find(std::string_view bytes) const {
     };
     for (std::size_t start = 0; start + kStart <= bytes.size(); ++start) {
         find(
-            start, false, [&](std::size_t at) { return at < bytes.size() ? std::optional(bytes[at]) : std::nullopt; },
-            [](std::size_t at) { return std::optional(at + 1); });
+            start, false,
+            [&](std::size_t at) { return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : kNoByte; },
+            [](std::size_t at) { return at + 1; });
         find(
             start, true, [&](std::size_t at) { return ByteAt(bytes, at); },
             [&](std::size_t at) { return NextByte(bytes, at); });
@@ -312,13 +319,13 @@ bool Values::Write(const Match& match, std::string_view pseudonym, std::string_v
     }
     std::vector<std::size_t> places{match.start};
     while (places.size() < pseudonym.size()) {
-        places.push_back(*NextByte(bytes, places.back()));
+        places.push_back(NextByte(bytes, places.back()));
     }
     const bool isLower = std::ranges::any_of(
         places, [&](std::size_t place) { return IsLower(bytes[place]) || IsLower(bytes[place + 1]); });
     for (std::size_t i = 0; i < places.size(); ++i) {
         std::string digits;
-        exchange::AppendByte(InCaseOf(*ByteAt(bytes, places[i]), pseudonym[i]), digits);
+        exchange::AppendByte(InCaseOf(CharOf(ByteAt(bytes, places[i])), pseudonym[i]), digits);
         put(places[i], InCaseOf(isLower ? 'a' : 'A', digits[0]));
         put(places[i] + 1, InCaseOf(isLower ? 'a' : 'A', digits[1]));
     }
