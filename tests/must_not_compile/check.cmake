@@ -1,5 +1,6 @@
 # Compiles SOURCE with the command behind "--" and compares what happens with what the source's first line announces.
-# With MOST_ERRORS the compiler may report no more errors than that.
+# With MOST_ERRORS the compiler may report no more errors than that. With CONSTEVAL_LAMBDAS the second line, "// or, by a
+# compiler that makes the lambda consteval: TEXT", replaces the first.
 set(_command)
 set(_behind FALSE)
 math(EXPR _last "${CMAKE_ARGC} - 1")
@@ -11,7 +12,11 @@ foreach(_i RANGE ${_last})
     endif()
 endforeach()
 
-file(STRINGS ${SOURCE} _announced LIMIT_COUNT 1)
+file(STRINGS ${SOURCE} _lines LIMIT_COUNT 2)
+list(POP_FRONT _lines _announced _second)
+if(CONSTEVAL_LAMBDAS AND _second MATCHES "^// or, by a compiler that makes the lambda consteval: (.+)$")
+    set(_announced "// error: ${CMAKE_MATCH_1}")
+endif()
 execute_process(COMMAND ${_command} ${SOURCE} RESULT_VARIABLE _result OUTPUT_VARIABLE _output ERROR_VARIABLE _output)
 
 if(_announced STREQUAL "// compiles")

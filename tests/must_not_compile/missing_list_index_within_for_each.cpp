@@ -1,4 +1,5 @@
 // error: TheLineMustHaveOneIndexInBracketsPerLevelAndList
+// or, by a compiler that makes the lambda consteval: call to a consteval constructor 'LineFormat'
 #include "tests/must_not_compile/fixture.h"
 
 void Sample::Dump(const krm::RecordLines& line) {
