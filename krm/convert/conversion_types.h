@@ -12,18 +12,18 @@ namespace krm {
 struct ConversionExample {
     /// The raw value. Where the type takes bytes, `bitLength` / 8 of them, the first one being the highest of the number.
     krm_ulong raw = 0;
-    unsigned short bitLength = 8;
-    unsigned char decimals = 0;
-    krm_ulong max = 0xFFFFFFFFU;  ///< upper limit, as a raw value
+    unsigned short bitLength = 8;  ///< of the raw value: 1 to 32
+    unsigned char decimals = 0;    ///< decimal places of the physical value
+    krm_ulong max = 0xFFFFFFFFU;   ///< upper limit, as a raw value
     /// The only pattern of the item: its key and its text. No pattern where the text is null.
     krm_ulong patternKey = 0;
-    const char* patternText = nullptr;
-    const char* text = "";  ///< what the converter shows; in the C locale where the type follows the user's
+    const char* patternText = nullptr;  ///< null for no pattern
+    const char* text = "";              ///< what the converter shows; in the C locale where the type follows the user's
 };
 
 /// One conversion type.
 struct ConversionType {
-    unsigned char code;
+    unsigned char code;     ///< what CreateConverter takes
     const char* name;       ///< a few words; types with the same name convert alike
     const char* className;  ///< the converter's class
     const char* shows;      ///< what its physical value and its text are
@@ -37,8 +37,8 @@ struct ConversionType {
     /// The arguments of CKRMCCommandConvSignalDataChassis: the number of bits, and whether the last of them is a sign. 0
     /// and false for every other class.
     krm_ulong groupWidth = 0;
-    bool lastBitIsSign = false;
-    ConversionExample example;
+    bool lastBitIsSign = false;  ///< the second of these arguments
+    ConversionExample example;   ///< an item of this type, and what is shown of it
 };
 
 /// All types that have a converter of their own, by code. Any other code is one of kPlainNumber. Walk it to list or name

@@ -235,10 +235,18 @@ krm_ulong CKRMCCommandConvSignalData::PhysicalConversion(double* result, krm_ulo
     if (status != 0) {
         return status;
     }
-    if constexpr (!std::is_floating_point_v<Extended>) {
-        if (const auto quick = krm::convert::QuickScaling(number, lMul, lDiv, lOffset, uchDecPntCount)) {
-            *result = *quick;
+    // More than the bits of a raw value is only what a converter of a user's own makes of them.
+    constexpr krm_int64 kMost = 0xFFFFFFFF;
+    if (number >= -kMost && number <= kMost) {
+        if (!Divides(lDiv) && uchDecPntCount == 0) {
+            *result = static_cast<double>(number * lMul + lOffset);  // 64 bits hold it, as 80-bit arithmetic does
             return 0;
+        }
+        if constexpr (!std::is_floating_point_v<Extended>) {
+            if (const auto quick = krm::convert::QuickScaling(number, lMul, lDiv, lOffset, uchDecPntCount)) {
+                *result = *quick;
+                return 0;
+            }
         }
     }
     *result = krm::convert::InExtendedPrecision(number, [&](krm_int64 signedValue) {

@@ -41,9 +41,11 @@ struct Steps;
 ///  - `stringId`: receives the words ID of the pattern chosen, or 0; may be null.
 class KRM_API CKRMCCommandConvSignalData {
 public:
+    /// A converter has nothing of its own: there is nothing to set or to copy.
     CKRMCCommandConvSignalData() = default;
-    CKRMCCommandConvSignalData(const CKRMCCommandConvSignalData&) = default;
-    CKRMCCommandConvSignalData& operator=(const CKRMCCommandConvSignalData&) = default;
+    CKRMCCommandConvSignalData(const CKRMCCommandConvSignalData&) = default;             ///< copies nothing
+    CKRMCCommandConvSignalData& operator=(const CKRMCCommandConvSignalData&) = default;  ///< copies nothing
+    /// For DeleteConverter, which destroys a converter of any class.
     virtual ~CKRMCCommandConvSignalData();
 
     /// Creates the converter of a conversion type, as krm::kConversionTypes lists them; an unknown type gives the base.

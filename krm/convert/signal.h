@@ -34,8 +34,8 @@ public:
         }
     }
 
-    CKRMCCommandConvSignalData& operator*() const { return *m_converter; }
-    CKRMCCommandConvSignalData* operator->() const { return m_converter.get(); }
+    CKRMCCommandConvSignalData& operator*() const { return *m_converter; }        ///< the converter
+    CKRMCCommandConvSignalData* operator->() const { return m_converter.get(); }  ///< the converter's members
 
 private:
     struct Delete {
@@ -52,8 +52,10 @@ private:
 /// Refers to the conversion record: don't keep it longer. The limits are the raw values of the record's `m_cDataMax` and
 /// `m_cDataMin`, the patterns its own; the words ID of the default text, for which records have no room, is 0.
 struct SignalRule {
+    /// The rule of an item of conversion type `type` with `decimals` decimal places. `table` must live as long as the rule.
     SignalRule(unsigned char type, unsigned char decimals, const CKRMCCommandConversionData& table)
         : conversionType(type), decPntCount(decimals), conversion(table) {}
+    /// The rule that `record` carries, which must live as long.
     template <class Record>
     requires requires(const Record& record) {
         record.m_uchDataType;
@@ -68,23 +70,25 @@ struct SignalRule {
     const CKRMCCommandConversionData& conversion;  ///< scaling, sign code, bit length, limits and patterns
 };
 
-// ConvertSignal fills raw value, physical value, text and words ID of `*display`. Returns 0, or krm::kNullPointer when
-// `display` is null or when the signal is not of the kind that the type takes; `*display` is unchanged then.
-
-/// From a raw value, right-aligned. Types 4 and 104 take bytes and refuse it.
+/// Fills raw value, physical value, text and words ID of `*display` from a raw value, right-aligned. Types 4 and 104 take
+/// bytes and refuse it. Returns 0, or krm::kNullArgument when `display` is null or when the signal is not of the kind that the
+/// type takes; `*display` is unchanged then.
 KRM_API krm_ulong ConvertSignal(const SignalRule& rule, krm_ulong raw, CKRMCCommandDispData* display);
-/// From bytes. Types other than 4 and 104 read one to four of them as a raw value, most significant first, and refuse any
+/// The same from bytes. Types other than 4 and 104 read one to four of them as a raw value, most significant first, and refuse any
 /// other number.
 KRM_API krm_ulong ConvertSignal(const SignalRule& rule, std::span<const unsigned char> bytes,
                                 CKRMCCommandDispData* display);
-// The same by a converter that is made once for many signals. REQUIRES: `converter` is one of the rule's type.
+/// The same from a raw value by a converter that is made once for many signals.
+/// REQUIRES: `converter` is one of the rule's type.
 KRM_API krm_ulong ConvertSignal(const SignalConverter& converter, const SignalRule& rule, krm_ulong raw,
                                 CKRMCCommandDispData* display);
+/// The same from bytes by a converter that is made once for many signals.
+/// REQUIRES: `converter` is one of the rule's type.
 KRM_API krm_ulong ConvertSignal(const SignalConverter& converter, const SignalRule& rule,
                                 std::span<const unsigned char> bytes, CKRMCCommandDispData* display);
 
 /// The interface's way back, ConvLogicalValue with raw limits: undoes the scaling, truncates, and gives the raw limit at or
-/// beyond a limit. Returns 0, or krm::kNullPointer for a null `raw`.
+/// beyond a limit. Returns 0, or krm::kNullArgument for a null `raw`.
 ///
 /// It undoes nothing but the scaling. Types 6 to 12, 15, 16, 19, 24, 101, 102, 110, 111 and 114 do more than scale, types 5,
 /// 105 and 106 less: for these it gives, with status 0, another raw value than the one behind `value`. RawFromPhysical
@@ -101,32 +105,31 @@ enum class RawStatus : unsigned char {
 
 /// A raw value with what it stands for. True when it is shown just as it was asked for.
 struct RawSignal {
+    /// Whether a raw value was found that is shown just so.
     explicit operator bool() const { return status == RawStatus::kFound; }
 
-    RawStatus status = RawStatus::kNone;
+    RawStatus status = RawStatus::kNone;    ///< decides what the others hold
     krm_ulong raw = 0;                      ///< right-aligned, within the bit length; 0 unless found or nearest
     double physical = 0;                    ///< the physical value of `raw`
     std::vector<unsigned char> bytes = {};  ///< instead of `raw`, for the type that takes bytes (104)
 };
 
-// RawFromPhysical gives the raw value behind a physical value or a text: the true inverse of the conversion, for all types
-// but those of which IsInvertible says no; these are kNoInverse.
-//
-// What it finds has been converted again and compared. Where raw values that mean the same are shown alike, it gives the
-// plain one: zero without a sign, BCD digits of at most 9, no bits that the type doesn't read. Where a scaling gives several
-// numbers the same value, it gives one of them; a scaling that gives all the same, such as one with a multiplier of 0, is
-// kNoInverse. So are bit lengths that cut a digit or byte short: of BCD any but the multiples of 4 up to 32, of the byte
-// exchange (type 12) those below 16. Dates and times of types 15 and 16 are
-// undone as far as each of their scaled parts fits a byte.
-//
-// The raw value fits the bit length; of types 7 to 11, which have a width of their own, that width. Bit lengths of 0 and
-// above 32 count as 32 bits for unsigned numbers, else as the converters take them. The limits play no part: what may be
-// sent to an ECU is the caller's to decide. Throws nothing but std::bad_alloc.
-
-/// From a physical value. Equal counts what differs by the rounding of the last binary place, as a number that was typed
-/// does. Type 104 needs the text.
+/// The raw value behind a physical value: the true inverse of the conversion, for all types but those of which IsInvertible
+/// says no; these are kNoInverse. Equal counts what differs by the rounding of the last binary place, as a number that was
+/// typed does. Type 104 needs the text.
+///
+/// What it finds has been converted again and compared. Where raw values that mean the same are shown alike, it gives the
+/// plain one: zero without a sign, BCD digits of at most 9, no bits that the type doesn't read. Where a scaling gives several
+/// numbers the same value, it gives one of them; a scaling that gives all the same, such as one with a multiplier of 0, is
+/// kNoInverse. So are bit lengths that cut a digit or byte short: of BCD any but the multiples of 4 up to 32, of the byte
+/// exchange (type 12) those below 16. Dates and times of types 15 and 16 are undone as far as each of their scaled parts fits
+/// a byte.
+///
+/// The raw value fits the bit length; of types 7 to 11, which have a width of their own, that width. Bit lengths of 0 and
+/// above 32 count as 32 bits for unsigned numbers, else as the converters take them. The limits play no part: what may be
+/// sent to an ECU is the caller's to decide. Throws nothing but std::bad_alloc.
 KRM_API RawSignal RawFromPhysical(const SignalRule& rule, double value);
-/// From a display text, just as the type shows it; of types that show decimals any spelling of the number will do that
+/// The same from a display text, just as the type shows it; of types that show decimals any spelling of the number will do that
 /// std::from_chars reads, with a point in every locale.
 ///
 /// A pattern's text gives the first pattern of that text that is ever shown, a limit's text (type 13) the limit. Where a text

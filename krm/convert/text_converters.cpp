@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <string>
 
 #include "krm/convert/internal/numbers.h"
 #include "krm/convert/internal/short_text.h"
@@ -15,16 +14,14 @@ using krm::convert::ShortText;
 namespace {
 
 /// Degrees behind the letter of their half of the globe. NaN counts as north and east.
-krm_ulong ShowDegrees(CKRMString* result, double degrees, const char* positive, const char* negative) {
+krm_ulong ShowDegrees(CKRMString* result, double degrees, char positive, char negative) {
     if (result == nullptr) {
         return kNullArgument;
     }
     constexpr unsigned char kDecimals = 4;
     const bool below = degrees < 0;
     // Whole before it is assigned: where memory runs out, the result stays as it was.
-    std::string text = below ? negative : positive;
-    text += krm::convert::DecimalText(below ? -degrees : degrees, kDecimals).Text();
-    *result = text.c_str();
+    *result = krm::convert::DecimalText(below ? -degrees : degrees, kDecimals).TextBehind(below ? negative : positive);
     return 0;
 }
 
@@ -73,14 +70,14 @@ krm_ulong CKRMCCommandConvSignalDataLatitude::StringConversion(CKRMString* resul
                                                                unsigned char, unsigned short, unsigned char, krm_ulong,
                                                                krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
                                                                krm_ulong) {
-    return ShowDegrees(result, dPhys, "N", "S");
+    return ShowDegrees(result, dPhys, 'N', 'S');
 }
 
 krm_ulong CKRMCCommandConvSignalDataLongitude::StringConversion(CKRMString* result, krm_ulong*, double dPhys, krm_ulong,
                                                                 unsigned char, unsigned short, unsigned char, krm_ulong,
                                                                 krm_ulong, CKRMList<CKRMCCommandDispData>*, CKRMString*,
                                                                 krm_ulong) {
-    return ShowDegrees(result, dPhys, "E", "W");
+    return ShowDegrees(result, dPhys, 'E', 'W');
 }
 
 krm_ulong CKRMCCommandConvSignalDataSoftwareVersion::StringConversion(CKRMString* result, krm_ulong* stringId, double,

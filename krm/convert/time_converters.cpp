@@ -43,10 +43,13 @@ krm_ulong ThreeBytesText(CKRMString* result, krm_ulong* stringId, double physica
         return kNullArgument;
     }
     const krm_ulong value = TruncateToLow32(physical);
-    const auto part = [value](unsigned shift) { return ((value >> shift) & 0xFFU) % 100; };
-    ShortText text;
-    text.Decimal(part(16), 2).Character('.').Decimal(part(8), 2).Character('.').Decimal(part(0), 2);
-    text.AssignTo(*result);
+    ShortText()
+        .LastDecimals((value >> 16U) & 0xFFU, 2)
+        .Character('.')
+        .LastDecimals((value >> 8U) & 0xFFU, 2)
+        .Character('.')
+        .LastDecimals(value & 0xFFU, 2)
+        .AssignTo(*result);
     return 0;
 }
 

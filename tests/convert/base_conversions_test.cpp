@@ -143,6 +143,48 @@ TEST_F(BaseConversions, MultiplierOf0LeavesTheOffset) {
     EXPECT_FALSE(std::signbit(Physical(0, {.mul = -1})));
 }
 
+TEST_F(BaseConversions, WholeResultsOfUpTo64BitsRoundOnce) {
+    constexpr krm_long kMost = std::numeric_limits<krm_long>::max();
+    constexpr krm_long kLeast = std::numeric_limits<krm_long>::min();
+    EXPECT_EQ(Physical(0xFFFFFFFF, {.bits = 32, .mul = kMost, .div = 0}), 9223372030412324864.0);  // exactly ...865
+    EXPECT_EQ(Physical(0xFFFFFFFF, {.bits = 32, .mul = kLeast, .offset = kLeast}), -9223372036854775808.0);
+    EXPECT_EQ(Physical(0xFFFFFFFF, {.sign = 3, .bits = 32, .mul = kLeast, .offset = kMost}), 4611686018427387904.0);
+    EXPECT_EQ(Physical(0xFFFFFFFF, {.sign = 1, .bits = 32, .mul = kLeast}), 2147483648.0);
+}
+
+/// A converter whose numbers have more bits than raw values.
+class LongNumbers : public Exposed<Base> {
+public:
+    explicit LongNumbers(krm_int64 number) : m_number(number) {}
+    krm_ulong SignedConversion(krm_int64* result, krm_ulong, unsigned char, unsigned short) override {
+        *result = m_number;
+        return 0;
+    }
+    double Scaled(krm_long mul, krm_long div, krm_long offset, unsigned char decimals) {
+        double result = -12345;
+        EXPECT_EQ(PhysicalConversion(&result, 1, 0, 8, mul, div, offset, decimals), 0U);
+        return result;
+    }
+
+private:
+    krm_int64 m_number;
+};
+
+TEST(OwnSigns, MayGiveNumbersOf64Bits) {
+    KRM_NOT_UNDER(Memcheck, "memcheck computes the processor's 80-bit numbers in 64 bits");
+    LongNumbers large((krm_int64{1} << 62) + 1);
+    EXPECT_EQ(large.Scaled(1, 1, 0, 0), 4611686018427387904.0);
+    EXPECT_EQ(large.Scaled(-8, 0, 0, 0), -36893488147419103232.0);
+    EXPECT_EQ(large.Scaled(4, 3, 0, 0), 6148914691236516864.0);
+    EXPECT_EQ(large.Scaled(1, 1, 0, 2), 46116860184273879.04);
+    LongNumbers least(std::numeric_limits<krm_int64>::min());
+    EXPECT_EQ(least.Scaled(-2, 1, 0, 0), 18446744073709551616.0);
+    LongNumbers above(krm_int64{1} << 32);  // a bit more than raw values have
+    EXPECT_EQ(above.Scaled(std::numeric_limits<krm_long>::min(), 1, -1, 0), -9223372036854775808.0);
+    LongNumbers below(-(krm_int64{1} << 32));
+    EXPECT_EQ(below.Scaled(std::numeric_limits<krm_long>::min(), 1, 1, 0), 9223372036854775808.0);
+}
+
 TEST_F(BaseConversions, RoundsOnceFromExtendedPrecision) {
     KRM_NOT_UNDER(Memcheck, "memcheck computes the processor's 80-bit numbers in 64 bits");
     // Each of these comes out one unit in the last place off when the steps are rounded to double.

@@ -166,6 +166,9 @@ TEST(ConvertSignal, TakesBytes) {
     EXPECT_STREQ("427", display.m_strDataPhys.GetText());
     EXPECT_EQ(0U, ConvertSignal(Rule(0, table), std::vector<unsigned char>{0xFF, 0xFF, 0xFF, 0xFF}, &display));
     EXPECT_STREQ("4294967295", display.m_strDataPhys.GetText());
+    const std::vector<unsigned char> many(0x1'0002, 'E');
+    EXPECT_EQ(0U, ConvertSignal(Rule(104, table), many, &display));
+    EXPECT_EQ(0x2'0004U, display.m_strDataPhys.GetLength());
 }
 
 TEST(ConvertSignal, RefusesWhatTheTypeDoesNotTake) {
@@ -553,6 +556,7 @@ TEST(RawFromPhysical, UndoesBcd) {
 TEST(RawFromPhysical, UndoesTimesAndDates) {
     EXPECT_EQ("found 135", Raw(Rule(19, Table(16)), 0x020F));
     EXPECT_EQ("found 135", Raw(Rule(111, Table(16, 1)), 0x020F));
+    EXPECT_EQ("found 960000061", Raw(Rule(19, Table(32)), 16000001 * 256.0 + 1)) << "to the minute in 1800 years";
     EXPECT_EQ("none", Raw(Rule(19, Table(16)), 0x023C)) << "there are no 60 minutes";
     EXPECT_EQ("none", Raw(Rule(19, Table(16)), 15.5));
     EXPECT_EQ("none", Raw(Rule(19, Table(16)), -1.0));

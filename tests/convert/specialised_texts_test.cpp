@@ -79,6 +79,45 @@ TEST(StringPatternText, WithoutAMatchAndADefaultTextIsHexadecimal) {
     EXPECT_EQ(id, 0U);
 }
 
+TEST(PatternText, KeysAndWordsIdsHave32Bits) {
+    const Item item{
+        .bits = 32,
+        .max = 0x20000005,
+        .min = 0x10000005,
+        .patterns = {{5, "five", 1}, {0x12340005, "whole", 591724545}, {0, "low", 70000}, {1, "high", 70001}},
+        .defaultText = "unknown",
+        .defaultId = 878051329};
+    const double whole = 0x12340005;
+    for (const int code : {1, 20, 22}) {
+        EXPECT_EQ(WithId(code, whole, 0, item), "whole #591724545");
+        EXPECT_EQ(WithId(code, 0x12350005, 0, item), "unknown #878051329");
+    }
+    EXPECT_EQ(WithId(103, 2, 0x12340005, item), "whole #591724545");
+    EXPECT_EQ(WithId(103, 2, 0x12350005, item), "2 #0");
+    for (const int code : {13, 24}) {
+        EXPECT_EQ(WithId(code, 2, 0x10000005, item), "low #70000");
+        EXPECT_EQ(WithId(code, 2, 0x20000005, item), "high #70001");
+        EXPECT_EQ(WithId(code, 2, 0x10000006, item), "2 #0");
+    }
+    for (const int code : {1, 13, 20, 22, 24, 103}) {
+        CKRMCCommandDispData record;
+        Arguments arguments(item);
+        const krm_ulong raw = code == 13 || code == 24 ? 0x20000005 : 0x12340005;
+        EXPECT_EQ(arguments.Raw(*Create(code), &record, raw), 0U);
+        EXPECT_EQ(record.m_ulDataStringId, raw == 0x20000005 ? 70001U : 591724545U) << code;
+    }
+    for (const int code : {1, 20, 22}) {
+        CKRMCCommandDispData record;
+        Arguments arguments(item);
+        EXPECT_EQ(arguments.Raw(*Create(code), &record, 0x12350005), 0U);
+        EXPECT_EQ(record.m_ulDataStringId, 878051329U);
+        EXPECT_EQ(arguments.Variable(*Create(code), &record, 0x12340005), 0U);
+        EXPECT_EQ(record.m_ulDataStringId, 591724545U);
+        EXPECT_EQ(arguments.Variable(*Create(code), &record, 0x12350005), 0U);
+        EXPECT_EQ(record.m_ulDataStringId, 878051329U);
+    }
+}
+
 TEST(StringPatternText, TextsAreNotFormats) {
     EXPECT_EQ(WithId(1, 3, 0, {.patterns = {{3, "100%s%n%d", 1}}}), "100%s%n%d #1");
     EXPECT_EQ(WithId(1, 3, 0, {.defaultText = "%s%n"}), "%s%n #0");

@@ -51,8 +51,8 @@ char* WriteShortDecimal(char* first, double value, unsigned char decimals) {
 }  // namespace
 
 DecimalText::DecimalText(double value, unsigned char decimals) {
-    char* const first = m_text.data();
-    char* const last = first + m_text.size() - 1;
+    char* const first = m_text.data() + kRoomInFront;
+    char* const last = m_text.data() + m_text.size() - 1;
     char* end = WriteShortDecimal(first, value, decimals);
     if (end == nullptr && std::isnan(value)) {  // some libraries' to_chars adds which kind of NaN it is
         const std::string_view name = std::signbit(value) ? "-nan" : "nan";

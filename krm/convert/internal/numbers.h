@@ -66,11 +66,18 @@ class DecimalText {
 public:
     DecimalText(double value, unsigned char decimals);
 
-    char* Text() { return m_text.data(); }
+    const char* Text() const { return m_text.data() + kRoomInFront; }
+    /// The text with a character in front of it.
+    const char* TextBehind(char first) {
+        m_text[0] = first;
+        return m_text.data();
+    }
 
 private:
+    static constexpr std::size_t kRoomInFront = 1;
+
     // Sign, the 309 digits of the largest double, point, 255 decimals, NUL.
-    std::array<char, 1 + 309 + 1 + 255 + 1> m_text;
+    std::array<char, kRoomInFront + 1 + 309 + 1 + 255 + 1> m_text;
 };
 
 /// Assigns a physical value that needs no step; the status of a converter's operation.

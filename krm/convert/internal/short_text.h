@@ -28,7 +28,11 @@ public:
     ShortText& Decimal(krm_ulong number, std::size_t width = 1) {
         return UpTo(core::WriteDecimal(End(), number, width));
     }
-    /// The same in upper-case hexadecimal.
+    /// The last `count` digits, zeros where the number has fewer.
+    ShortText& LastDecimals(krm_ulong number, std::size_t count) {
+        return UpTo(core::WriteLastDecimals(End(), number, count));
+    }
+    /// At least `width` upper-case hexadecimal digits, filled with zeros.
     ShortText& Hexadecimal(krm_ulong number, std::size_t width = 1) {
         return UpTo(core::WriteHexadecimal(End(), number, core::kUpperCase, width));
     }

@@ -42,8 +42,15 @@ char* WriteLastDecimals(char* to, Number number, std::size_t count) {
 /// and for `width`.
 template <std::unsigned_integral Number>
 char* WriteDecimal(char* to, Number number, std::size_t width) {
-    char* const end = WriteDecimal(to, number);
-    return static_cast<std::size_t>(end - to) < width ? WriteLastDecimals(to, number, width) : end;
+    if (width <= 1) {
+        return WriteDecimal(to, number);
+    }
+    // The last digits first: mostly there are no others.
+    Number others = number;
+    for (char* digit = to + width; digit != to; others /= 10) {
+        *--digit = static_cast<char>('0' + others % 10);
+    }
+    return others == 0 ? to + width : WriteDecimal(to, number);
 }
 
 /// A number in the base of which a digit holds `kBits` bits, filled with leading zeros to `width` digits. A number of n
