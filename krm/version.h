@@ -5,8 +5,11 @@
 #ifndef KRM_VERSION_H_
 #define KRM_VERSION_H_
 
+/// Changes with the binary interface.
 #define KRM_VERSION_MAJOR 1
+/// Changes with additions.
 #define KRM_VERSION_MINOR 0
+/// Changes with corrections.
 #define KRM_VERSION_PATCH 0
 
 /// One number to compare with, for example `#if KRM_VERSION >= 10200` for 1.2.0.

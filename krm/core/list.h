@@ -32,8 +32,8 @@ inline constexpr bool kCopiedInOneStep = false;
 template <class T>
 struct ListNode {
     // Constructed in place: initialising the node as a whole would fill it with zeros before.
-    ListNode() : element() {}
-    explicit ListNode(const T& original) : element(original) {}
+    ListNode() : element() {}                                    ///< with a new element
+    explicit ListNode(const T& original) : element(original) {}  ///< with a copy
 
     T element;                 ///< first, so that the node's address is its own
     ListNode* next = nullptr;  ///< null at the tail
@@ -100,9 +100,9 @@ public:
 
     // Each of these yields the element at `position`, then moves the position on: GetNext* towards the tail, GetPrev*
     // towards the head, to null after the last.
-    // REQUIRES: `position` is not null and names an element of this list.
 
     /// A copy of the element at `position`, which moves on to the next element or to null.
+    /// REQUIRES, as do the seven that follow: `position` is not null and names an element of this list.
     KRM_TEMPLATE_MEMBER T GetNext(_SKRMPOSITION*& position) const;
     /// The element at `position` itself, which moves on to the next element or to null.
     KRM_TEMPLATE_MEMBER T& GetNext(_SKRMPOSITION*& position);

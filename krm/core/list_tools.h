@@ -34,6 +34,7 @@ std::size_t Size(const CKRMList<T>& list) {
     return list.GetCount() < 0 ? 0 : static_cast<std::size_t>(list.GetCount());
 }
 
+/// Whether there is no element.
 template <class T>
 bool Empty(const CKRMList<T>& list) {
     return list.GetHeadPosition() == nullptr;
@@ -89,6 +90,7 @@ CKRMList<T> MakeList(Range&& range) {
     Append(list, range);
     return list;
 }
+/// The same from braces: `krm::MakeList<unsigned short>({0x10, 0x20})`.
 template <class T>
 CKRMList<T> MakeList(std::initializer_list<T> elements) {
     CKRMList<T> list;

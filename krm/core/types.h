@@ -17,12 +17,13 @@
 /// Unsigned 32-bit number of the interface. It is `unsigned long` wherever that has 32 bits (Windows, 32-bit Linux), so
 /// that the interface there is exactly the documented one (docs/interface.md), and `std::uint32_t` elsewhere, so that a
 /// 64-bit build stores and wraps the same values.
-/// `krm_long` is its signed twin: `long`, or `std::int32_t` where `long` is wider.
+/// `krm_long` is its signed twin.
 #if ULONG_MAX == 0xFFFFFFFFUL
 using krm_ulong = unsigned long;
 using krm_long = long;
 #else
 using krm_ulong = std::uint32_t;
+/// Signed 32-bit number of the interface: `long` wherever that has 32 bits, `std::int32_t` elsewhere.
 using krm_long = std::int32_t;
 #endif
 
@@ -38,10 +39,10 @@ using krm_int64 = std::int64_t;
 #define KRM_PRIX "lX"
 #define KRM_PRIx "lx"
 #else
-#define KRM_PRIu "u"
-#define KRM_PRId "d"
-#define KRM_PRIX "X"
-#define KRM_PRIx "x"
+#define KRM_PRIu "u"  ///< what printf needs for a krm_ulong in decimal: `"%" KRM_PRIu`
+#define KRM_PRId "d"  ///< what printf needs for a krm_long in decimal: `"%" KRM_PRId`
+#define KRM_PRIX "X"  ///< what printf needs for a krm_ulong in upper-case hexadecimal: `"%08" KRM_PRIX`
+#define KRM_PRIx "x"  ///< what printf needs for a krm_ulong in lower-case hexadecimal: `"%08" KRM_PRIx`
 #endif
 
 static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 4 && CHAR_BIT == 8,
@@ -82,24 +83,21 @@ static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 
 #define KRM_TEMPLATE_CLASS
 #define KRM_TEMPLATE_PRIVATE
 #else
-#define KRM_API __attribute__((visibility("default")))
-#define KRM_PLATFORM_API __attribute__((visibility("default")))
-#define KRM_TEMPLATE_MEMBER
-#define KRM_TEMPLATE_INLINE inline
-#define KRM_TEMPLATE_CLASS __attribute__((visibility("default")))
-#define KRM_TEMPLATE_PRIVATE __attribute__((visibility("hidden")))
+#define KRM_API __attribute__((visibility("default")))             ///< marks what krm::adaptation_data exports
+#define KRM_PLATFORM_API __attribute__((visibility("default")))    ///< marks what krm::platform exports
+#define KRM_TEMPLATE_MEMBER                                        ///< marks an exported member of the list; for list.h
+#define KRM_TEMPLATE_INLINE inline                                 ///< a member that may be compiled in; for list.h
+#define KRM_TEMPLATE_CLASS __attribute__((visibility("default")))  ///< the list itself; for list.h
+#define KRM_TEMPLATE_PRIVATE __attribute__((visibility("hidden")))  ///< takes a member out again; for list.h
 #endif
 
-// Lets GCC and Clang check the arguments of a printf-like function; positions count `this` as the first.
+/// Lets GCC and Clang check the arguments of a printf-like function; positions count `this` as the first.
 #if defined(__GNUC__)
 #define KRM_PRINTF_LIKE(formatPosition, firstArgument) __attribute__((format(printf, formatPosition, firstArgument)))
 #else
 #define KRM_PRINTF_LIKE(formatPosition, firstArgument)
 #endif
 
-// Declares the virtual overloads of one name in the order of their slots, which is part of the interface. Compilers give
-// slots in the order of declaration, but MSVC, and whoever follows it, takes the overloads of a name from the last to
-// the first; so there they are declared the other way round.
 #if defined(_MSC_VER)
 #define KRM_OVERLOADS_2(first, second) \
     second;                            \
@@ -110,9 +108,13 @@ static_assert(sizeof(krm_ulong) == 4 && sizeof(krm_long) == 4 && sizeof(int) == 
     second;                                           \
     first
 #else
+/// Declares the virtual overloads of one name in the order of their slots, which is part of the interface. Compilers give
+/// slots in the order of declaration, but MSVC, and whoever follows it, takes the overloads of a name from the last to
+/// the first; so there they are declared the other way round.
 #define KRM_OVERLOADS_2(first, second) \
     first;                             \
     second
+/// The same of four overloads.
 #define KRM_OVERLOADS_4(first, second, third, fourth) \
     first;                                            \
     second;                                           \

@@ -8,10 +8,11 @@
 //     added Data[2]: {m_uchDTCKind=0, m_ulDTCCode=769, m_strDTC="P0301", ...}
 //
 // Paths are those of the operation log: a record's field behind a dot, a list's element by its index from 0. A map's entry,
-// which the log doesn't show, is `m_cResourceMap["key"]`. Texts in quotes are UTF-8 on one line: a quote, a backslash and
-// what isn't to be printed are escaped as \" \\ \n \r \t, or byte by byte as \x and two hexadecimal digits; so is every byte
-// that isn't UTF-8. Numbers are decimal, doubles with the fewest digits that read back to the same bits; bools are false and
-// true; records {field=value, ...}, lists [value, ...], maps {"key"=value, ...}.
+// which the log doesn't show, is `m_cResourceMap["key"]`. Texts in quotes are UTF-8 on one line: a quote and a backslash have a
+// backslash in front, line feed, carriage return and tab are `\n`, `\r` and `\t`, and what else isn't to be printed stands byte
+// by byte as `\x` and two hexadecimal digits; so does every byte that isn't UTF-8. Numbers are decimal, doubles with the fewest
+// digits that read back to the same bits; bools are false and true; records {field=value, ...}, lists [value, ...], maps
+// {"key"=value, ...}.
 //
 // Lists are compared position by position, and each surplus element is one difference. One that came in front therefore
 // changes all behind it; a ListKey prevents that.
@@ -40,11 +41,6 @@
 
 namespace krm {
 
-// Options name fields by patterns: a path of the log, in which `*` within a name stands for any characters, or none, and
-// `[*]` for every element of a list or array, or every entry of a map. Every path of a difference is a pattern too.
-//
-// An index counts in the first of the two values; that of an element that only the second has counts there.
-
 /// Of a list or an array: how its elements find each other.
 ///
 /// Elements with equal keys are compared with each other, wherever they stand; equal keys within a list are taken in their
@@ -70,6 +66,10 @@ struct Tolerance {
 };
 
 /// How to compare.
+///
+/// Options name fields by patterns: a path of the log, in which `*` within a name stands for any characters, or none, and
+/// `[*]` for every element of a list or array, or every entry of a map. Every path of a difference is a pattern too. An index
+/// counts in the first of the two values; that of an element that only the second has counts there.
 struct CompareOptions {
     /// Patterns of what isn't compared; all beneath a record, list or map goes with it. An element's field that is ignored
     /// doesn't appear in the text of an added or removed element either.
@@ -102,6 +102,7 @@ struct Difference {
     std::string value1;  ///< the first's; empty for what was added
     std::string value2;  ///< the second's; empty for what was removed
 
+    /// Whether all members are equal.
     friend bool operator==(const Difference&, const Difference&) = default;
 };
 
@@ -114,6 +115,7 @@ struct Comparison {
     /// Whether both were compared and nothing differs.
     bool Equal() const { return error.empty() && differences.empty(); }
 
+    /// Whether the differences and the errors are equal.
     friend bool operator==(const Comparison&, const Comparison&) = default;
 };
 

@@ -12,7 +12,7 @@
 #define KRM_EXCHANGE_API __declspec(dllimport)
 #endif
 #else
-#define KRM_EXCHANGE_API __attribute__((visibility("default")))
+#define KRM_EXCHANGE_API __attribute__((visibility("default")))  ///< marks what krm::exchange exports
 #endif
 
 #endif  // KRM_EXCHANGE_EXPORT_H_

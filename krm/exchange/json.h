@@ -39,7 +39,8 @@ KRM_EXCHANGE_API std::string ToJson(const CKRMBaseAdaptationData& message, const
 
 /// The same of a message of the library; empty where the library has none with this type, ID and direction.
 KRM_EXCHANGE_API std::string ToJson(const CKRMBaseAdaptationData& message, Direction direction);
-/// The same where its class, or its family's Snd or Rcv base, is known while compiling.
+/// The same where the direction is known while compiling, by its class or its family's Snd or Rcv base. A program's own
+/// message needs its description here, too: without it, this gives an empty text.
 template <HasDirection Message>
 std::string ToJson(const Message& message) {
     return ToJson(message, Message::kDirection);

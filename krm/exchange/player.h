@@ -47,7 +47,7 @@ struct PlayerOptions {
         Fail        ///< an error
     };
 
-    UsedUp usedUp = UsedUp::LastAgain;
+    UsedUp usedUp = UsedUp::LastAgain;  ///< the same answer again, unless it says otherwise
     /// Patterns of what doesn't count when requests are compared, in the notation of krm::CompareOptions: a session number,
     /// a time. They hold for all requests; one that fits no request there is, is an error.
     std::vector<std::string> leaveOut = {};
@@ -88,7 +88,9 @@ public:
     /// seeks. Nobody else may use it meanwhile.
     explicit Player(std::istream& recording, PlayerOptions options = {});
     ~Player();
+    /// Takes all over; `other` may only be assigned to or destroyed then.
     Player(Player&& other) noexcept;
+    /// The same.
     Player& operator=(Player&& other) noexcept;
 
     /// Why nothing can be played: the file can't be opened, is no recording, or a pattern of the options is wrong. Else empty.

@@ -74,8 +74,8 @@ KRM_EXCHANGE_API std::string ToText(const RecordingFault& fault);
 
 /// A message that was read from a recording, or why a line of it is none.
 struct RecordedMessage {
-    std::uint64_t exchange = 0;  ///< request and answer have the same
-    RecordedTime time{};
+    std::uint64_t exchange = 0;                       ///< request and answer have the same
+    RecordedTime time{};                              ///< when it was written, in UTC
     std::unique_ptr<CKRMBaseAdaptationData> message;  ///< null where the line has a fault
     const MessageDescription* description =
         nullptr;               ///< the message's class, its direction among it; null as `message`
@@ -129,7 +129,9 @@ public:
     /// call this recorder.
     explicit Recorder(Sink sink, Clock now = &std::chrono::system_clock::now);
     ~Recorder();
+    /// Takes all over; `other` may only be assigned to or destroyed then.
     Recorder(Recorder&& other) noexcept;
+    /// The same.
     Recorder& operator=(Recorder&& other) noexcept;
 
     /// What failed last: why there is no file to write to, or why a message was not written, which stays when later ones
@@ -187,7 +189,9 @@ public:
     /// Reads a stream from where it is, which is offset 0. It must live longer, and have been opened as a binary one.
     explicit RecordingReader(std::istream& in, const RecordingReadOptions& options = {});
     ~RecordingReader();
+    /// Takes all over; `other` may only be assigned to or destroyed then.
     RecordingReader(RecordingReader&& other) noexcept;
+    /// The same.
     RecordingReader& operator=(RecordingReader&& other) noexcept;
 
     /// The version of the library that began the recording, "1.0.0"; empty until Next has been called, and where the file is

@@ -92,7 +92,9 @@ public:
     /// Throws std::system_error where there is no secret and the system has no random numbers.
     explicit Redactor(const RedactOptions& options = {});
     ~Redactor();
+    /// Takes all over; `other` may only be assigned to or destroyed then.
     Redactor(Redactor&& other) noexcept;
+    /// The same.
     Redactor& operator=(Redactor&& other) noexcept;
 
     /// What is wrong with the options; empty when they can be used. Otherwise nothing is collected, and redacting fails.

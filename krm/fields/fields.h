@@ -257,10 +257,12 @@ inline constexpr ValueKind kValueKind = [] {
 
 template <class Type>
 struct ElementTrait {};  ///< what ElementOf goes by
+/// Of a list.
 template <class Element>
 struct ElementTrait<CKRMList<Element>> {
     using Type = Element;  ///< of a list
 };
+/// Of an array.
 template <class Element, std::size_t count>
 struct ElementTrait<Element[count]> {
     using Type = Element;  ///< of an array

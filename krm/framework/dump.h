@@ -42,6 +42,7 @@ template <class T>
 struct ListElement {
     using Type = void;  ///< no list
 };
+/// Of a list its elements' type.
 template <class T>
 struct ListElement<CKRMList<T>> {
     using Type = T;  ///< what the list holds

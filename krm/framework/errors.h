@@ -54,8 +54,10 @@ constexpr const char* ErrorText(krm_ulong code) {
 /// A set CKRMError as an exception.
 class Failure : public std::runtime_error {
 public:
+    /// With the error's code and TextOf it.
     explicit Failure(const CKRMError& error) : std::runtime_error(TextOf(error)), m_code(error.GetErrorCode()) {}
 
+    /// The error's code, never 0 where the error was set; see krm/core/error_codes.h.
     krm_ulong Code() const { return m_code; }
 
     /// "error 2100100002: out of memory", then, where they are set, the error's function and message.
@@ -103,6 +105,7 @@ public:
         }
     }
 
+    /// The error object, for the call.
     operator CKRMError*() { return &m_error; }  // NOLINT: it is there to be passed as one
 
 private:
@@ -114,14 +117,17 @@ private:
 template <class Value>
 class [[nodiscard]] Result {
 public:
+    /// What a call returned.
     Result(Value value) : m_outcome(std::in_place_index<0>, std::move(value)) {}  // NOLINT: either is a result
+    /// What it set instead; a copy.
     Result(const CKRMError& error) : m_outcome(std::in_place_index<1>, error) {}  // NOLINT
 
-    bool has_value() const { return m_outcome.index() == 0; }
-    explicit operator bool() const { return has_value(); }
+    bool has_value() const { return m_outcome.index() == 0; }  ///< whether there is a value, and no error
+    explicit operator bool() const { return has_value(); }     ///< the same
 
     /// The value. REQUIRES: has_value().
     const Value& operator*() const { return *std::get_if<0>(&m_outcome); }
+    /// The value's members. REQUIRES: has_value().
     const Value* operator->() const { return std::get_if<0>(&m_outcome); }
     /// The value; throws the error as a Failure where there is none.
     const Value& value() const {

@@ -16,6 +16,12 @@
 // 2, so they tell nothing apart. The operation log serves the whole process: Write is called by every thread that dumps,
 // possibly at the same time, and does its own locking. It must not write to the operation log itself.
 //
+// Flushing is up to who owns the stream: PlainLog and HeadedLog hand lines to it and never flush. What the stream still holds
+// when the program crashes is lost. Where the log has to tell of a crash, either let the stream flush by itself
+// (`file << std::unitbuf`, which calls the system for every line), or flush it at points of your own, between messages and
+// while no other thread dumps: the sinks' locks are not yours. An std::ofstream flushes when it is closed or destroyed; who
+// wants to know whether all was written calls close() and looks at the stream.
+//
 // ScopedLogSink alone needs KRMC_ER_SetOperationLogSink, which this library's stand-in for the platform has. With another
 // platform use the sinks by WriteToSink, or call their Write from that platform's own log.
 #ifndef KRM_FRAMEWORK_LOG_SINKS_H_
@@ -42,6 +48,7 @@
 
 namespace krm {
 
+/// Whether `Sink` can be a sink: whether it has the Write that the head of this file describes.
 template <class Sink>
 concept LogSink = requires(Sink& sink, std::string_view line, int number) {
     { sink.Write(line, number, number) } -> std::convertible_to<krm_long>;
@@ -58,6 +65,7 @@ krm_long WriteToSink(void* sink, const char* text, krm_ulong textLength, int fir
 template <LogSink Sink>
 class ScopedLogSink {
 public:
+    /// The log is `sink`'s from now on.
     explicit ScopedLogSink(Sink& sink) { KRMC_ER_SetOperationLogSink(&WriteToSink<Sink>, &sink); }
     // The null has a type so that a platform without this function is asked for it only by who uses the class.
     ~ScopedLogSink() { KRMC_ER_SetOperationLogSink(nullptr, static_cast<Sink*>(nullptr)); }
@@ -66,8 +74,12 @@ public:
 };
 
 /// Writes every line as it is, and a line feed. The stream must live longer; nobody else may write to it meanwhile.
+///
+/// Holds nothing back and flushes nothing: each line is in the stream when Write returns, and out of the stream's own buffer
+/// when its owner flushes or closes it, or at once where it has std::unitbuf set.
 class PlainLog {
 public:
+    /// Writes to `stream`.
     explicit PlainLog(std::ostream& stream) : m_stream(stream) {}
 
     /// 0, or 1 where the stream is bad.
@@ -105,8 +117,10 @@ inline std::string EscapeLineBreaks(std::string_view text) {
     return escaped;
 }
 
-/// `time` in UTC, to the millisecond: "2024-02-29T23:59:59.999Z".
-inline std::string TimeStamp(std::chrono::system_clock::time_point time) {
+/// `time` in UTC, to the millisecond: "2024-02-29T23:59:59.999Z". A time of a coarser unit than the system clock's may lie in
+/// any year of four digits.
+template <class Unit>
+std::string TimeStamp(std::chrono::sys_time<Unit> time) {
     const auto milliseconds = std::chrono::floor<std::chrono::milliseconds>(time);
     const auto day = std::chrono::floor<std::chrono::days>(milliseconds);
     const std::chrono::year_month_day date(day);
@@ -131,8 +145,12 @@ inline std::string TimeStamp(std::chrono::system_clock::time_point time) {
 /// other families are without. So the first lines are held until the next one of their thread comes, or the sink dies.
 /// Lines of several threads mix; the thread's number tells them apart. The stream must live longer; nobody else may write to
 /// it meanwhile.
+///
+/// Flushes nothing, as PlainLog. While a message's first lines are held the stream hasn't even got them; of a whole message
+/// none is, so that flushing between messages does.
 class HeadedLog {
 public:
+    /// Says what time it is; called for every line.
     using Clock = std::function<std::chrono::system_clock::time_point()>;
 
     /// Takes the time from `now`, such as that of the session that the messages belong to.
@@ -230,6 +248,7 @@ private:
 template <LogSink First, LogSink Second>
 class TeeLog {
 public:
+    /// Writes to `one`, then to `other`.
     TeeLog(First& one, Second& other) : m_one(one), m_other(other) {}
 
     /// The first result that is not 0.

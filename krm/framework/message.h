@@ -322,6 +322,7 @@ inline std::string ReadableName(const std::type_info& type) {
 #endif
 }
 
+/// Writes both class names to standard error and stops the program; for MessageAs.
 [[noreturn]] inline void StopAtAnotherClass(const std::type_info& asked, const std::type_info& actual) {
     std::fprintf(stderr, "krm::MessageAs: asked for %s, but the message is %s\n", ReadableName(asked).c_str(),
                  ReadableName(actual).c_str());

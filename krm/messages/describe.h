@@ -54,6 +54,7 @@ concept HasDirection = std::derived_from<Message, CKRMBaseAdaptationData> && req
     { Message::kDirection } -> std::convertible_to<Direction>;
 };
 
+/// The command's name that the message's class was given; a NUL behind it. For what knows a class by its type alone.
 template <class Message, class Base, CommandName command>
 constexpr std::string_view CommandNameIn(const MessageOf<Message, Base, command>*) {
     return {command.name.characters, command.name.View().size()};
@@ -98,6 +99,7 @@ inline std::string NameOf(const CKRMBaseAdaptationData& message, Direction direc
     return command != nullptr ? ClassName(command->family, command->name, direction)
                               : CommandNameOf(message.GetCommandType(), message.GetCommandID());
 }
+/// The same of a message whose static type says its direction. Of a class of one's own the name is made of its command.
 template <HasDirection Message>
 std::string NameOf(const Message& message) {
     if constexpr (requires { CommandNameIn(&message); }) {

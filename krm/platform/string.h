@@ -26,14 +26,17 @@
 
 namespace krm {
 
-// The operators ask for exactly this class: what merely converts to a CKRMString, as every `const char*` does, keeps the
-// operators that it had. A literal nullptr is no text: compared with it, a string would look like a pointer.
+/// Whether `T` is CKRMString. The operators ask for exactly this class: what merely converts to a CKRMString, as every
+/// `const char*` does, keeps the operators that it had.
 template <class T>
 concept IsString = std::same_as<T, CKRMString>;
+/// Whether `T` is, or converts to, a `const char*` or a std::string_view. A literal nullptr is no text: compared with it, a
+/// string would look like a pointer.
 template <class T>
 concept IsStandardText =
     !IsString<T> && !std::same_as<T, std::nullptr_t> &&
     (std::convertible_to<const T&, const char*> || std::convertible_to<const T&, std::string_view>);
+/// Whether `T` is either kind of text.
 template <class T>
 concept IsText = IsString<T> || IsStandardText<T>;
 
@@ -95,6 +98,7 @@ String operator+(String left, const Text& right) {
     left += right;
     return left;
 }
+/// The same with the standard text in front.
 template <krm::IsStandardText Text, krm::IsString String>
 String operator+(const Text& left, const String& right) {
     String both = krm::MakeString(left);
@@ -108,9 +112,10 @@ std::ostream& operator<<(std::ostream& stream, const String& text) {
     return stream << krm::View(text);
 }
 
-/// The hash of the bytes: that of a std::string_view on them.
+/// What std::hash gives for a CKRMString: the hash of a std::string_view on its bytes.
 template <>
 struct std::hash<CKRMString> {
+    /// The hash of `text`.
     std::size_t operator()(const CKRMString& text) const noexcept {
         return std::hash<std::string_view>()(krm::View(text));
     }

@@ -25,9 +25,9 @@ inline constexpr krm_ulong kULongValue = 4;   ///< an unsigned 32-bit number
 /// does that.
 class KRM_API CKRMCAttribute : public CKRMCNode {
 public:
-    // A null name gives an empty one. A value that can't be set (out of memory, or a null text) leaves the attribute
-    // empty; nothing reports it but GetValueType().
-    explicit CKRMCAttribute(const char* name);                   ///< empty
+    /// Empty. A null name gives an empty one, here and below; a value that can't be set (out of memory, or a null text)
+    /// leaves the attribute empty, which nothing reports but GetValueType().
+    explicit CKRMCAttribute(const char* name);
     CKRMCAttribute(const char* name, const char* value);         ///< with a copy of the text
     CKRMCAttribute(const char* name, double value);              ///< with a double
     CKRMCAttribute(const char* name, krm_long value);            ///< with a signed number
@@ -46,21 +46,25 @@ public:
     /// the types differ (kDifferentTypes) or are none of the known ones (kUnknownValueType); false without one when the
     /// values differ.
     virtual bool CompareValue(CKRMError* error, CKRMCAttribute* other);
-    // Each sets value and type. False when memory is short (kOutOfMemory), which leaves the attribute empty, or for a
-    // null `text` (kNullArgument), which leaves it as it was. A text is copied; it may be this attribute's own.
-    KRM_OVERLOADS_4(virtual bool SetValue(CKRMError* error, krm_ulong value),    ///< to an unsigned number
-                    virtual bool SetValue(CKRMError* error, krm_long value),     ///< to a signed number
-                    virtual bool SetValue(CKRMError* error, double value),       ///< to a double
-                    virtual bool SetValue(CKRMError* error, const char* text));  ///< to a copy of the text
+    KRM_OVERLOADS_4(
+        /// Sets value and type to an unsigned number. False when memory is short (kOutOfMemory), which leaves the attribute
+        /// empty.
+        virtual bool SetValue(CKRMError* error, krm_ulong value),
+        /// The same with a signed number.
+        virtual bool SetValue(CKRMError* error, krm_long value),
+        /// The same with a double.
+        virtual bool SetValue(CKRMError* error, double value),
+        /// The same with a copy of a text, which may be this attribute's own. False also for a null `text`
+        /// (kNullArgument), which leaves the attribute as it was.
+        virtual bool SetValue(CKRMError* error, const char* text));
 
     /// The type of the value: krm::tree::kStringValue and so on, kEmptyValue while there is none.
     krm_ulong GetValueType() const { return m_ulValueType; }
     /// The text, valid until the value changes; null unless the value is a text.
     const char* GetString() const;
-    // The number; 0 unless the value has that very type.
-    double GetDouble() const;    ///< of kDoubleValue
-    krm_long GetLong() const;    ///< of kLongValue
-    krm_ulong GetULong() const;  ///< of kULongValue
+    double GetDouble() const;    ///< the number of a kDoubleValue; 0 for a value of any other type
+    krm_long GetLong() const;    ///< the number of a kLongValue; 0 for a value of any other type
+    krm_ulong GetULong() const;  ///< the number of a kULongValue; 0 for a value of any other type
 
 protected:
     krm_ulong m_ulValueType;  ///< krm::tree::kEmptyValue and so on

@@ -30,47 +30,54 @@ namespace krm::tree {
 template <class Node>
 class Siblings {
 public:
+    /// A forward iterator. Valid as long as the node it stands on.
     class Iterator {
     public:
-        using iterator_category = std::forward_iterator_tag;
-        using difference_type = std::ptrdiff_t;
-        using value_type = Node;
-        using pointer = Node*;
-        using reference = Node&;
+        using iterator_category = std::forward_iterator_tag;  ///< what algorithms may count on
+        using difference_type = std::ptrdiff_t;               ///< of two iterators; asked for by algorithms
+        using value_type = Node;                              ///< a node of the chain
+        using pointer = Node*;                                ///< what `->` gives
+        using reference = Node&;                              ///< what `*` gives
 
-        Iterator() = default;
-        explicit Iterator(Node* node) : m_node(node) {}
-        Node& operator*() const { return *m_node; }
-        Node* operator->() const { return m_node; }
+        Iterator() = default;                            ///< the end of every chain
+        explicit Iterator(Node* node) : m_node(node) {}  ///< at `node`; null is the end
+        Node& operator*() const { return *m_node; }      ///< the node. REQUIRES: this is not the end
+        Node* operator->() const { return m_node; }      ///< the node's members. REQUIRES: this is not the end
+        /// Moves on to the next node, or to the end. REQUIRES: this is not the end.
         Iterator& operator++() {
             m_node = static_cast<Node*>(m_node->GetNext());
             return *this;
         }
+        /// The same; returns where the iterator stood.
         Iterator operator++(int) {
             const Iterator before = *this;
             ++*this;
             return before;
         }
+        /// Whether both stand on the same node, or both at the end.
         friend bool operator==(Iterator left, Iterator right) { return left.m_node == right.m_node; }
 
     private:
         Node* m_node = nullptr;
     };
 
-    explicit Siblings(Node* first) : m_first(first) {}
-    Iterator begin() const { return Iterator(m_first); }
-    Iterator end() const { return Iterator(); }
+    explicit Siblings(Node* first) : m_first(first) {}    ///< `first` and what follows it; null is an empty chain
+    Iterator begin() const { return Iterator(m_first); }  ///< the first node
+    Iterator end() const { return Iterator(); }           ///< behind the last node
 
 private:
     Node* m_first;
 };
 
+/// The attributes of an element, in the order of their creation.
 inline Siblings<CKRMCAttribute> Attributes(CKRMCElement& element) {
     return Siblings(element.GetFirstAttribute());
 }
+/// The groups of an element, one per name of its child elements.
 inline Siblings<CKRMCElementGroup> Groups(CKRMCElement& element) {
     return Siblings(element.GetFirstGroup());
 }
+/// The elements of a group.
 inline Siblings<CKRMCElement> Elements(CKRMCElementGroup& group) {
     return Siblings(group.GetFirstElement(nullptr));
 }
@@ -81,19 +88,19 @@ inline Siblings<CKRMCElement> Children(CKRMCElement& element, const char* name) 
 
 // ---- Searching ----
 
-// A path leads from an element to elements below it, one step per level, with slashes between the steps:
-//
-//     Ecu/Dtc              every Dtc of every Ecu
-//     Ecu[1]/Dtc           of the second Ecu alone: counting starts at 0
-//     Ecu[@Id=2024]/Dtc    of those Ecus whose attribute Id is 2024
-//
-// A step is a name of any characters but `/` and `[`. Behind `[@name=` the value ends at the next `]` and matches a text byte
-// by byte, a number when it reads as one of the same value; an empty attribute matches nothing. A path that is not of this
-// form finds nothing.
-
 /// The first element that the path leads to, in the order of the tree; null where there is none.
+///
+/// A path leads from an element to elements below it, one step per level, with slashes between the steps:
+///
+///     Ecu/Dtc              every Dtc of every Ecu
+///     Ecu[1]/Dtc           of the second Ecu alone: counting starts at 0
+///     Ecu[@Id=2024]/Dtc    of those Ecus whose attribute Id is 2024
+///
+/// A step is a name of any characters but `/` and `[`. Behind `[@name=` the value ends at the next `]` and matches a text byte
+/// by byte, a number when it reads as one of the same value; an empty attribute matches nothing. A path that is not of this
+/// form finds nothing.
 KRM_API CKRMCElement* Find(CKRMCElement& from, std::string_view path);
-/// All of them.
+/// All elements that the path leads to, in the order of the tree.
 KRM_API std::vector<CKRMCElement*> FindAll(CKRMCElement& from, std::string_view path);
 
 // ---- Removing ----
@@ -107,13 +114,15 @@ KRM_API std::unique_ptr<CKRMCNode> Remove(CKRMCNode& node);
 
 // ---- Copies ----
 
-// A copy that owns all of what it holds: names, values, groups, also empty ones, and elements to any depth, but not the
-// node's own siblings.
-//
-// Every node of the copy has the library's class. Of a class of your own the copy keeps what that class inherits; a value of
-// a type of its own becomes empty, and a node that is no attribute, element or group is left out.
+/// A copy that owns all of what it holds: names, values, groups, also empty ones, and elements to any depth, but not the
+/// node's own siblings.
+///
+/// Every node of the copy has the library's class. Of a class of your own the copy keeps what that class inherits; a value of
+/// a type of its own becomes empty, and a node that is no attribute, element or group is left out.
 KRM_API std::unique_ptr<CKRMCAttribute> Clone(const CKRMCAttribute& attribute);
+/// The same of an element with its attributes and all that is below it.
 KRM_API std::unique_ptr<CKRMCElement> Clone(const CKRMCElement& element);
+/// The same of a group with its elements.
 KRM_API std::unique_ptr<CKRMCElementGroup> Clone(const CKRMCElementGroup& group);
 
 // ---- XML ----

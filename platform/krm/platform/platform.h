@@ -4,7 +4,7 @@
 // It may include krm/core/ alone.
 //
 // krm::platform implements just this, so that the library builds and runs anywhere. Whoever has the real libraries
-// links them instead: -DKRM_PLATFORM_TARGET=<CMake target>.
+// links them instead: -DKRM_PLATFORM_TARGET=TARGET.
 #ifndef KRM_PLATFORM_PLATFORM_H_
 #define KRM_PLATFORM_PLATFORM_H_
 

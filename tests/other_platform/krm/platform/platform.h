@@ -1,6 +1,6 @@
-// A second platform, for the tests: it offers what the library asks of one (README.md) and differs in all else from the
-// stand-in. Strings have no room of their own, maps are sorted arrays, the error object and the messages' base have
-// further members, the log is kept in memory.
+// A second platform, for the tests: it offers what the library asks of one (docs/guide/platform.md) and differs in all
+// else from the stand-in. Strings have no room of their own, maps are sorted arrays, the error object and the messages'
+// base have further members, the log is kept in memory.
 //
 // Whoever adapts the real libraries writes a header of this name, krm/platform/platform.h, in an include root of his own.
 #ifndef KRM_TESTS_OTHER_PLATFORM_PLATFORM_H_
