@@ -1,7 +1,6 @@
 // What stands beside CKRMList: iterators both ways, size, filling, const access by index, comparison.
 #include "krm/core/list_tools.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -25,8 +24,6 @@
 #include "krm/platform/string.h"
 
 namespace {
-
-using ::testing::ElementsAre;
 
 template <class T>
 constexpr bool IsAStandardRange() {
@@ -94,13 +91,13 @@ TEST(ListIterator, FromAPositionAlone) {
 TEST(ListIterator, ServesAlgorithmsThatNeedBothDirections) {
     CKRMList<int> list = krm::MakeList({1, 2, 3, 4});
     std::reverse(begin(list), end(list));
-    EXPECT_THAT(Elements(list), ElementsAre(4, 3, 2, 1));
+    EXPECT_EQ(Elements(list), (std::vector<int>{4, 3, 2, 1}));
     EXPECT_EQ(*std::find(std::make_reverse_iterator(end(list)), std::make_reverse_iterator(begin(list)), 3), 3);
     EXPECT_EQ(std::ranges::distance(list), 4);
     EXPECT_EQ(*std::ranges::find(list, 2), 2);
     EXPECT_EQ(std::ranges::count_if(list, [](int number) { return number > 2; }), 2);
     std::ranges::replace(list, 3, 7);
-    EXPECT_THAT(Elements(list), ElementsAre(4, 7, 2, 1));
+    EXPECT_EQ(Elements(list), (std::vector<int>{4, 7, 2, 1}));
     EXPECT_EQ(*std::ranges::prev(end(list), 2), 2);
 }
 
@@ -129,13 +126,13 @@ TEST(ListFilling, FromBraces) {
     krm::Append(numbers, {0x10, 0x20});
     krm::Append(numbers, {});
     krm::Append(numbers, {0x30});
-    EXPECT_THAT(Elements(numbers), ElementsAre(0x10, 0x20, 0x30));
+    EXPECT_EQ(Elements(numbers), (std::vector<unsigned short>{0x10, 0x20, 0x30}));
     CKRMList<CKRMString> texts;
     krm::Append(texts, {"P0301", "P0420"});
-    EXPECT_THAT(Elements(texts), ElementsAre("P0301", "P0420"));
-    EXPECT_THAT(Elements(krm::MakeList<krm_ulong>({1, 2, 3})), ElementsAre(1U, 2U, 3U));
+    EXPECT_EQ(Elements(texts), (std::vector<CKRMString>{"P0301", "P0420"}));
+    EXPECT_EQ(Elements(krm::MakeList<krm_ulong>({1, 2, 3})), (std::vector<krm_ulong>{1, 2, 3}));
     const CKRMList<int> deduced = krm::MakeList({4, 5});
-    EXPECT_THAT(Elements(deduced), ElementsAre(4, 5));
+    EXPECT_EQ(Elements(deduced), (std::vector<int>{4, 5}));
     EXPECT_TRUE(krm::Empty(krm::MakeList<CKRMCCommandDispData>({})));
 }
 
@@ -153,12 +150,12 @@ TEST(ListFilling, FromARange) {
     krm::Append(all, list);
     krm::Append(all, std::vector<unsigned char>{9});
     krm::Append(all, std::vector<unsigned char>());
-    EXPECT_THAT(Elements(all), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9));
-    EXPECT_THAT(Elements(krm::MakeList<unsigned char>(array)), ElementsAre(4, 5));
+    EXPECT_EQ(Elements(all), (std::vector<unsigned char>{1, 2, 3, 4, 5, 6, 7, 8, 9}));
+    EXPECT_EQ(Elements(krm::MakeList<unsigned char>(array)), (std::vector<unsigned char>{4, 5}));
     // What converts by itself, as texts to strings; and into another list's elements.
     const char* const names[] = {"a", "b"};
-    EXPECT_THAT(Elements(krm::MakeList<CKRMString>(names)), ElementsAre("a", "b"));
-    EXPECT_THAT(Elements(krm::MakeList<krm_ulong>(list)), ElementsAre(7U, 8U));
+    EXPECT_EQ(Elements(krm::MakeList<CKRMString>(names)), (std::vector<CKRMString>{"a", "b"}));
+    EXPECT_EQ(Elements(krm::MakeList<krm_ulong>(list)), (std::vector<krm_ulong>{7, 8}));
 }
 
 template <class T, class Range>
@@ -172,7 +169,7 @@ static_assert(!CanAppend<CKRMString, std::vector<int>> && !CanAppend<int, int>);
 TEST(ListFilling, AListAppendedToItselfIsThereTwice) {
     CKRMList<int> list = krm::MakeList({1, 2});
     krm::Append(list, list);
-    EXPECT_THAT(Elements(list), ElementsAre(1, 2, 1, 2));
+    EXPECT_EQ(Elements(list), (std::vector<int>{1, 2, 1, 2}));
     const CKRMList<int>& constant = list;
     krm::Append(list, constant);
     EXPECT_EQ(krm::Size(list), 8U);

@@ -138,7 +138,7 @@ const CompareOptions kWheelsByName{.keys = {{"m_cWheels", {"m_strName"}}}};
 TEST(Compare, FindsNothingInWhatIsEqual) {
     krm::test::Seed seed(16);
     ComparedCar car;
-    krm::test::Fill(car, seed);
+    krm::test::Fill(krm::kTypeDescription<ComparedCar>, &car, seed);
     const ComparedCar copy = car;
     EXPECT_EQ(Differences(car, copy), "equal");
     EXPECT_EQ(Differences(ComparedCar(), ComparedCar()), "equal");
@@ -424,10 +424,10 @@ TEST(Ignoring, LeavesOutElementsThatOneListHas) {
 TEST(Ignoring, TakesThePathOfEveryDifference) {
     krm::test::Seed seed(16);
     ComparedCar before;
-    krm::test::Fill(before, seed);
+    krm::test::Fill(krm::kTypeDescription<ComparedCar>, &before, seed);
     ComparedCar after = before;
-    krm::test::Change(after, seed);
-    krm::test::Fill(after.m_cWheels, seed);
+    krm::test::Change(krm::kTypeDescription<ComparedCar>, &after, seed);
+    krm::test::Fill(krm::kTypeDescription<CKRMList<ComparedWheel>>, &after.m_cWheels, seed);
     after.m_cTexts.SetAt("", "");
     after.m_cTexts.SetAt("]\"\\\n\x01\xE4\xC3\xA4.", "1");
     before.m_cNames.AddTail("left");
@@ -732,6 +732,8 @@ TEST(Patterns, ThatAreNoneAreErrors) {
     EXPECT_EQ(Wrong("m_cTexts[\"a]"), R"(ignored path "m_cTexts[\"a]": at character 10)" + index);
     EXPECT_EQ(Wrong("m_cTexts[\"\\y\"]"), R"(ignored path "m_cTexts[\"\\y\"]": at character 10)" + index);
     EXPECT_EQ(Wrong("m_cTexts[\"\\x0\"]"), R"(ignored path "m_cTexts[\"\\x0\"]": at character 10)" + index);
+    EXPECT_EQ(Wrong("m_cTexts[\"\\x0G\"]"), R"(ignored path "m_cTexts[\"\\x0G\"]": at character 10)" + index);
+    EXPECT_EQ(Wrong("m_cTexts[\"\\xG0\"]"), R"(ignored path "m_cTexts[\"\\xG0\"]": at character 10)" + index);
     EXPECT_EQ(Wrong("m_cTexts[\"\\x"), R"(ignored path "m_cTexts[\"\\x": at character 10)" + index);
     EXPECT_EQ(Wrong("m_cTexts[\"\\"), R"(ignored path "m_cTexts[\"\\": at character 10)" + index);
 }
@@ -912,26 +914,17 @@ struct ComparedMessage {
     std::string_view className;
     krm_ulong type;
     krm_ulong id;
-    std::unique_ptr<CKRMBaseAdaptationData> (*filled)();
 
     Direction direction() const { return className.ends_with("Snd") ? Direction::Send : Direction::Receive; }
+    const krm::MessageDescription& description() const { return *krm::FindMessage(type, id, direction()); }
+    std::unique_ptr<CKRMBaseAdaptationData> filled() const { return krm::test::FilledMessage(description(), 16); }
 };
 
 void PrintTo(const ComparedMessage& message, std::ostream* out) {
     *out << message.className;
 }
 
-template <class Message>
-constexpr ComparedMessage Listed(std::string_view name, krm_ulong type, krm_ulong id) {
-    return {name, type, id, []() -> std::unique_ptr<CKRMBaseAdaptationData> {
-                krm::test::Seed seed(16);
-                auto message = std::make_unique<Message>();
-                krm::test::Fill(*message, seed);
-                return message;
-            }};
-}
-
-#define KRM_LISTED(Class, Base, type, id, command) Listed<Class>(#Class, type, id),
+#define KRM_LISTED(Class, Base, type, id, command) {#Class, type, id},
 constexpr ComparedMessage kListed[] = {KRM_ALL_MESSAGES(KRM_LISTED)};
 #undef KRM_LISTED
 
@@ -994,7 +987,7 @@ TEST_P(EveryComparedMessage, DiffersWhereItDiffers) {
     const std::unique_ptr<CKRMBaseAdaptationData> after = GetParam().filled();
     const Comparison equal = Compare(*before, *after, direction);
     EXPECT_TRUE(equal.Equal()) << equal;
-    const krm::MessageDescription& description = *krm::FindMessage(GetParam().type, GetParam().id, direction);
+    const krm::MessageDescription& description = GetParam().description();
     std::size_t changed = 0;
     ChangeOneByOne(description.ContentOf(*after).value(), "", [&](const std::string& path) {
         const Comparison comparison = Compare(*before, *after, direction);
@@ -1014,7 +1007,7 @@ TEST_P(EveryComparedMessage, DiffersWhereItDiffers) {
 TEST_P(EveryComparedMessage, DiffersFromANewOne) {
     const Direction direction = GetParam().direction();
     const std::unique_ptr<CKRMBaseAdaptationData> filled = GetParam().filled();
-    const krm::MessageDescription& description = *krm::FindMessage(GetParam().type, GetParam().id, direction);
+    const krm::MessageDescription& description = GetParam().description();
     const std::unique_ptr<CKRMBaseAdaptationData> fresh = description.create();
     for (const krm::FieldDescription& field : description.content->fields) {
         CompareOptions options;  // that leave this field alone to be compared

@@ -27,6 +27,7 @@
 #include "tests/exchange/random_content.h"
 #include "tests/exchange/recording_text.h"
 #include "tests/support/folder.h"
+#include "tests/support/not_under.h"
 
 /// A request of a program's own, with a double.
 class PlayedTone : public krm::MessageOf<PlayedTone, CKRMCBaseCmdAdaptDataSnd, krm::CommandName("FindTone", 902)> {
@@ -160,6 +161,22 @@ TEST(Player, AnswersInAnyOrderOfDifferentRequests) {
         turns[ecu] += asked < 50 ? 1 : 0;
         ASSERT_EQ(Asked(player, CodesRequest(ecu)), std::to_string(expected + 1) + ": " + std::to_string(expected));
     }
+}
+
+TEST(Player, CountsExchangesAndRequestsBeyond16Bits) {
+    KRM_NOT_UNDER(Memcheck, "70,000 exchanges would take minutes");
+    constexpr krm_ulong kExchanges = 70'000;
+    Tape tape;
+    for (krm_ulong ecu = 0; ecu < kExchanges; ++ecu) {
+        tape.Add(ClearRequest(ecu), CKRMCClearDTCCmdAdaptDataRcv());
+    }
+    tape.Add(ClearRequest(3), CKRMCClearDTCCmdAdaptDataRcv());
+    Player player = tape.Play();
+    EXPECT_EQ(player.Count(), kExchanges + 1);
+    EXPECT_EQ(Asked(player, ClearRequest(65'538)), "65539: CKRMCClearDTCCmdAdaptDataRcv");
+    EXPECT_EQ(Asked(player, ClearRequest(3)), "4: CKRMCClearDTCCmdAdaptDataRcv");
+    EXPECT_EQ(Asked(player, ClearRequest(3)), "70001: CKRMCClearDTCCmdAdaptDataRcv");
+    EXPECT_EQ(Asked(player, ClearRequest(69'999)), "70000: CKRMCClearDTCCmdAdaptDataRcv");
 }
 
 TEST(Player, GivesTheLastAnswerAgainOrAnErrorWhenUsedUp) {
@@ -420,6 +437,27 @@ TEST(Player, PlaysAProgramsOwnMessages) {
     EXPECT_EQ(player.Answer(request).error,
               "no equal FindTone request was recorded; the nearest is that of exchange 2: "
               "added m_cNames[\"name\"]: \"counts\"");
+}
+
+TEST(Player, TellsTextsOfOneLengthApart) {
+    constexpr const krm::MessageDescription& kTone = krm::kMessageDescription<PlayedTone>;
+    const krm::MessageDescription own[] = {kTone, krm::kMessageDescription<PlayedToneAnswer>};
+    const std::vector<std::pair<const char*, const char*>> names = {
+        {"note", "a"}, {"note", "b"}, {"nota", "a"}, {"note", "the longer 1"}, {"note", "the longer 2"}};
+    Tape tape;
+    std::uint64_t exchange = 0;
+    for (const auto& [name, text] : names) {
+        PlayedTone request;
+        request.m_cNames.SetAt(name, text);
+        tape.recorder.Write(++exchange, request, kTone);
+        tape.recorder.Write(exchange, PlayedToneAnswer(), krm::kMessageDescription<PlayedToneAnswer>);
+    }
+    Player player = tape.Play({.reading = {.ownMessages = own}});
+    for (std::size_t i = names.size(); i != 0; --i) {
+        PlayedTone request;
+        request.m_cNames.SetAt(names[i - 1].first, names[i - 1].second);
+        EXPECT_EQ(player.Answer(request).exchange, i);
+    }
 }
 
 // Each class's request, filled at random, and the same with one number or text changed.

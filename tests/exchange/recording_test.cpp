@@ -152,6 +152,20 @@ TEST(Recorder, WritesTimesInMicrosecondsOfUtc) {
     }
 }
 
+TEST(Recorder, TellsTypesAndIdsBeyond16Bits) {
+    std::string text;
+    Recorder recorder(Into(text), TickingClock());
+    CKRMCGetDTCCmdAdaptDataSnd request;
+    request.SetCommandType(0x10001);
+    EXPECT_EQ(recorder.Write(1, request, krm::Direction::Send).error,
+              "the library has no such request: its type is 65537, its ID 2");
+    request.SetCommandType(1);
+    request.SetCommandID(0x10002);
+    EXPECT_EQ(recorder.Write(1, request, krm::Direction::Send).error,
+              "the library has no such request: its type is 1, its ID 65538");
+    EXPECT_EQ(text, kHeader);
+}
+
 TEST(Recorder, WritesAProgramsOwnMessage) {
     std::string text;
     Recorder recorder(Into(text), TickingClock());

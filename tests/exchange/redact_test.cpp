@@ -12,7 +12,6 @@
 #include <filesystem>
 #include <iterator>
 #include <memory>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -74,10 +73,13 @@ struct krm::Fields<RedactedAnswer>
 
 namespace {
 
-/// Whether a text is as the regular expression says. Not GoogleTest's matcher, which knows no classes of characters on Windows.
-MATCHER_P(IsLike, expression, "") {
-    static_cast<void>(result_listener);
-    return std::regex_match(arg, std::regex(expression));
+/// What kind of character stands where: A for a capital letter, a for a small one, 0 for a digit; others as they are.
+std::string Shape(std::string_view text) {
+    std::string shape(text);
+    for (char& c : shape) {
+        c = c >= 'A' && c <= 'Z' ? 'A' : c >= 'a' && c <= 'z' ? 'a' : c >= '0' && c <= '9' ? '0' : c;
+    }
+    return shape;
 }
 
 using krm::RedactOptions;
@@ -146,8 +148,6 @@ std::string PseudonymOf(Redactor& redactor, const std::string& value) {
     return pseudonym;
 }
 
-constexpr const char* kVinRegex = "[A-HJ-NPR-Z][A-HJ-NPR-Z][A-HJ-NPR-Z][0-9][A-HJ-NPR-Z][0-9]+";
-
 TEST(Redact, VinBecomesOneOfTheSameForm) {
     Redactor redactor;
     CKRMCGetVinCodeCmdAdaptDataRcv answer;
@@ -158,7 +158,8 @@ TEST(Redact, VinBecomesOneOfTheSameForm) {
     const std::string pseudonym = krm::ToString(answer.m_strVinCode);
     EXPECT_NE(pseudonym, kVin);
     EXPECT_EQ(pseudonym.size(), 17U);
-    EXPECT_THAT(pseudonym, IsLike(kVinRegex));
+    EXPECT_EQ(Shape(pseudonym), "AAA0A000000000000");
+    EXPECT_EQ(pseudonym.find_first_of("IOQ"), std::string::npos) << pseudonym;
 }
 
 TEST(Redact, EveryFormInATextIsReplacedByTheSamePseudonym) {
@@ -229,7 +230,7 @@ TEST(Redact, ListsAndArraysThatSpellAValue) {
 TEST(Redact, KeysAndValuesOfMaps) {
     Redactor redactor({.values = {"Jane Doe"}});
     const std::string pseudonym = PseudonymOf(redactor, "Jane Doe");
-    EXPECT_THAT(pseudonym, IsLike("[A-Z][a-z][a-z][a-z] [A-Z][a-z][a-z]"));
+    EXPECT_EQ(Shape(pseudonym), "Aaaa Aaa");
     RedactedAnswer answer;
     answer.m_cTexts.SetAt("owner", "Jane Doe");
     answer.m_cTexts.SetAt("of Jane Doe", "yes");
@@ -253,10 +254,10 @@ TEST(Redact, WhatAFieldHoldsIsReplacedEverywhere) {
     answer.m_cTexts.SetAt("colour", "grey");
     Redact(redactor, answer);
     const std::string owner = krm::ToString(answer.m_strOwner);
-    EXPECT_THAT(owner, IsLike("  [A-Z][a-z][a-z][a-z] [A-Z][a-z][a-z]\r\n"));
+    EXPECT_EQ(Shape(owner), "  Aaaa Aaa\r\n");
     CKRMString phone;
     EXPECT_TRUE(answer.m_cTexts.Lookup("phone", phone));
-    EXPECT_THAT(krm::ToString(phone), IsLike("[0-9]+"));
+    EXPECT_EQ(Shape(krm::ToString(phone)), "00000000000");
     EXPECT_EQ(krm::ToString(answer.m_strNote),
               "Called " + Folded(owner.substr(2, 8)) + " on " + krm::ToString(phone) + ".");
     EXPECT_EQ(krm::ToString(krm::At(answer.m_cNotes, 0)), Hex(owner.substr(2, 8)));
@@ -323,7 +324,7 @@ TEST(Redact, ShortOrEmptyContentOfAFieldIsReplacedThereAlone) {
         cell = 0;
     }
     Redact(redactor, answer);
-    EXPECT_THAT(krm::ToString(answer.m_strOwner), IsLike("[A-Z][a-z]\\."));
+    EXPECT_EQ(Shape(krm::ToString(answer.m_strOwner)), "Aa.");
     EXPECT_NE(answer.m_strOwner, "Jo.");
     EXPECT_EQ(answer.m_strNote, "Jo. bought it in 0000.");
     EXPECT_NE(Spelled(answer.m_uchBytes), std::string(6, '\0'));
@@ -466,7 +467,7 @@ TEST(Redact, EveryEncodingKeepsItsLengthAndKind) {
         EXPECT_EQ(other.size(), value.size());
         return other;
     };
-    EXPECT_THAT(pseudonym("ab-CD 12/34"), IsLike("[a-z][a-z]-[A-Z][A-Z] [0-9][0-9]/[0-9][0-9]"));
+    EXPECT_EQ(Shape(pseudonym("ab-CD 12/34")), "aa-AA 00/00");
     const std::string utf8 = pseudonym("\xC3\xBC\xE5\xBC\xA0\xF0\xA0\x80\x80z");
     EXPECT_TRUE(utf8[0] >= '\xC3' && utf8[2] >= '\xE4' && utf8[5] == '\xF0') << Hex(utf8);
     Redactor redactor({.values = {utf8}});
@@ -475,7 +476,7 @@ TEST(Redact, EveryEncodingKeepsItsLengthAndKind) {
     ASSERT_TRUE(redactor.Redact(answer));
     EXPECT_THAT(krm::ToJson(answer), Not(HasSubstr("$bytes")));
     const std::string latin1 = pseudonym("M\xFCller");
-    EXPECT_THAT(latin1.substr(2), IsLike("[a-z]+"));
+    EXPECT_EQ(Shape(latin1.substr(2)), "aaaa");
     EXPECT_GE(static_cast<unsigned char>(latin1[1]), 0xC0);
 }
 
@@ -733,7 +734,7 @@ TEST(RedactRecording, ReplacesWhatALaterMessageTellsAndLeavesOutWhatItCannotRead
     EXPECT_TRUE(done.faults[1].torn);
 
     const std::string pseudonym = PseudonymOf(redactor, kOldVin);
-    EXPECT_THAT(pseudonym, IsLike("[A-Z][a-z]\\. [0-9]+-[a-z]+"));
+    EXPECT_EQ(Shape(pseudonym), "Aa. 0000-aaa");
     std::string numbers = "1";
     for (const char c : pseudonym) {
         numbers += ',' + std::to_string(static_cast<int>(c));

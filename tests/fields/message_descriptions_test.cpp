@@ -44,6 +44,7 @@ using krm::MessageDescription;
 using krm::TypeDescription;
 using krm::Value;
 using krm::ValueKind;
+using krm::test::Seed;
 using testing::ElementsAre;
 using Map = CKRMMap<CKRMString, CKRMString>;
 
@@ -86,6 +87,52 @@ void WriteTyped(const T& it, std::string& out) {
         out += ']';
     } else {
         Write(it, out);
+    }
+}
+
+template <class T>
+void FillTyped(T& it, Seed& seed);
+
+// One function for each class: a visitor would be one for each field, which the compiler takes far longer for.
+template <class T, auto... members>
+void FillFields(T& it, const krm::FieldList<members...>*, Seed& seed) {
+    (FillTyped(it.*members, seed), ...);
+}
+
+/// Fills `it` and all it holds with values that are not its defaults; each list gets two elements.
+template <class T>
+void FillTyped(T& it, Seed& seed) {
+    if constexpr (std::is_same_v<T, bool>) {
+        it = true;
+    } else if constexpr (std::is_integral_v<T>) {
+        it = static_cast<T>(seed.Next() | 2U);
+    } else if constexpr (std::is_same_v<T, double>) {
+        it = static_cast<double>(static_cast<std::int32_t>(seed.Next())) / 1024.0 + 0.0625;
+    } else if constexpr (std::is_same_v<T, CKRMString>) {
+        it = ("text " + std::to_string(seed.Next())).c_str();
+    } else if constexpr (std::is_array_v<T>) {
+        for (auto& element : it) {
+            FillTyped(element, seed);
+        }
+    } else if constexpr (std::is_same_v<T, Map>) {
+        for (int i = 0; i < 2; ++i) {
+            CKRMString key;
+            CKRMString value;
+            FillTyped(key, seed);
+            FillTyped(value, seed);
+            it.SetAt(key, value);
+        }
+    } else if constexpr (krm::kIsList<T>) {
+        for (int i = 0; i < 2; ++i) {
+            krm::ElementOf<T> element{};
+            FillTyped(element, seed);
+            it.AddTail(element);
+        }
+    } else {
+        if constexpr (krm::HasFieldsOfBase<T>) {
+            FillFields(it, static_cast<const krm::Fields<typename T::DirectionBase>*>(nullptr), seed);
+        }
+        FillFields(it, static_cast<const krm::Fields<T>*>(nullptr), seed);
     }
 }
 
@@ -158,6 +205,26 @@ void Copy(ConstValue from, Value to) {
     }
 }
 
+template <class Message>
+std::vector<std::string_view> FieldNames() {
+    return {krm::kFieldNames<Message>.begin(), krm::kFieldNames<Message>.end()};
+}
+template <class Message>
+const std::type_info& TypeInfo() {
+    return typeid(Message);
+}
+template <class Message>
+void FillMessage(CKRMBaseAdaptationData& message) {
+    Seed seed(16);
+    FillTyped(static_cast<Message&>(message), seed);
+}
+template <class Message>
+std::string MessageText(const CKRMBaseAdaptationData& message) {
+    std::string out;
+    WriteTyped(static_cast<const Message&>(message), out);
+    return out;
+}
+
 struct ListedMessage {
     std::string_view className;
     krm_ulong type;
@@ -165,10 +232,19 @@ struct ListedMessage {
     std::string_view command;
     const std::type_info& (*typeInfo)();
     std::vector<std::string_view> (*fieldNames)();
-    std::unique_ptr<CKRMBaseAdaptationData> (*filled)();
+    void (*fill)(CKRMBaseAdaptationData& message);
     std::string (*text)(const CKRMBaseAdaptationData& message);
 
     Direction direction() const { return className.ends_with("Snd") ? Direction::Send : Direction::Receive; }
+    std::unique_ptr<CKRMBaseAdaptationData> filled() const {
+        std::unique_ptr<CKRMBaseAdaptationData> message = krm::NewMessage(type, id, direction());
+        CKRMBaseAdaptationData* const object = message.get();
+        if (object == nullptr || typeid(*object) != typeInfo()) {
+            throw std::bad_cast();
+        }
+        fill(*object);
+        return message;
+    }
 };
 
 void PrintTo(const ListedMessage& message, std::ostream* out) {
@@ -181,22 +257,10 @@ constexpr ListedMessage Listed(std::string_view name, krm_ulong type, krm_ulong 
             type,
             id,
             command,
-            []() -> const std::type_info& { return typeid(Message); },
-            [] {
-                return std::vector<std::string_view>(krm::kFieldNames<Message>.begin(),
-                                                     krm::kFieldNames<Message>.end());
-            },
-            []() -> std::unique_ptr<CKRMBaseAdaptationData> {
-                krm::test::Seed seed(16);
-                auto message = std::make_unique<Message>();
-                krm::test::Fill(*message, seed);
-                return message;
-            },
-            [](const CKRMBaseAdaptationData& message) {
-                std::string out;
-                WriteTyped(static_cast<const Message&>(message), out);
-                return out;
-            }};
+            &TypeInfo<Message>,
+            &FieldNames<Message>,
+            &FillMessage<Message>,
+            &MessageText<Message>};
 }
 
 #define KRM_LISTED(Class, Base, type, id, command) Listed<Class>(#Class, type, id, command),

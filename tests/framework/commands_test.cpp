@@ -92,6 +92,8 @@ KRM_ALL_MESSAGES(KRM_CHECK)
 
 // A user's own command: neither its ID nor its name may be one of its family's, those of other families may.
 static_assert(CommandName("ReadPaintCode", 900).IdIn(CommandFamily::Diagnostic) == 900);
+static_assert(CommandName("ReadPaintCode", 0x10001).IdIn(CommandFamily::Diagnostic) == 0x10001);
+static_assert(CommandName("ReadPaintCode", 0x10002).IdIn(CommandFamily::Diagnostic) == 0x10002);
 static_assert(CommandName("ReadPaintCode", 900).name.View() == "ReadPaintCode");
 static_assert(CommandName("GetHelpInfo", 900).IdIn(CommandFamily::Diagnostic) == 900);
 static_assert(CommandName("ReadPaintCode", 127).IdIn(CommandFamily::Viewer) == 127);

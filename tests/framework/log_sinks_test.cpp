@@ -99,10 +99,14 @@ TEST(HeadedLogTest, NamesACommandThatTheTableDoesntHaveByItsNumbers) {
     const LogTo scope(log);
     CKRMCBaseDsdiAdaptData base(0xFFFFFFFFU);
     base.ErrWriteOperationLog();
+    CKRMCBaseDsdiAdaptData(0x10001).ErrWriteOperationLog();
     EXPECT_EQ(stream.str(),
               "2024-02-29T23:59:59.999Z 1 == unknown command (type 8, ID 4294967295)\n"
               "2024-02-29T23:59:59.999Z 1 [CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8\n"
-              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=-1\n");
+              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=-1\n"
+              "2024-02-29T23:59:59.999Z 1 == unknown command (type 8, ID 65537)\n"
+              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandType=8\n"
+              "2024-02-29T23:59:59.999Z 1 [CKRMCBaseDsdiAdaptData::ErrWriteOperationLog] m_dwCommandID=65537\n");
 }
 
 // A line that only looks like a message's first has no heading, and waits no longer than for the next one, or the end.

@@ -67,22 +67,22 @@ void Convert(Seed& seed, std::string& out) {
              {krm_ulong{0}, krm_ulong{0x07E70C1F}, krm_ulong{0x0D071E00}, krm_ulong{seed.Next()}}) {
             CKRMCCommandDispData record;
             arguments.Raw(*converter, &record, raw);
-            Describe(record.m_strDataPhys, out);
-            Describe(record.m_dDataPhys, out);
+            out += Described(record.m_strDataPhys);
+            out += Described(record.m_dDataPhys);
             arguments.Variable(*converter, &record, raw);
-            Describe(record.m_strDataPhys, out);
+            out += Described(record.m_strDataPhys);
             krm_ulong back = 0;
             const Item& item = arguments.item;
             converter->ConvLogicalValue(&back, record.m_dDataPhys, item.sign, item.bits, item.mul, item.div,
                                         item.offset, item.decimals, item.max, item.min);
-            Describe(back, out);
+            out += Described(back);
             converter->ConvLogicalValue(&back, record.m_dDataPhys, item.sign, item.bits, item.mul, item.div,
                                         item.offset, item.decimals, 1e6, -1e6);
-            Describe(back, out);
+            out += Described(back);
         }
         CKRMCCommandDispData record;
         converter->ConvCommandDispData(&record, bytes, sizeof bytes, 0, 8, 1, 1, 0, 0, 0, 0, nullptr);
-        Describe(record.m_strDataPhys, out);
+        out += Described(record.m_strDataPhys);
     }
 }
 
@@ -96,9 +96,9 @@ void CopyConvertersOfLocales(std::string& out) {
         timeCopy = time;
         CKRMCCommandDispData record;
         Arguments({}).Raw(dateCopy, &record, 0x07E70C1F);
-        Describe(record.m_strDataPhys, out);
+        out += Described(record.m_strDataPhys);
         Arguments({}).Raw(timeCopy, &record, 0x0D071E00);
-        Describe(record.m_strDataPhys, out);
+        out += Described(record.m_strDataPhys);
         date = CKRMCCommandConvSignalDataDate2();
     }
 }
@@ -109,7 +109,7 @@ void CopyAndDump(Seed& seed, LogByThread& log, std::string& out) {
     Fill(message, seed);
     Message copy(message);
     message.Clear();
-    Describe(copy, out);
+    out += Described(copy);
     copy.ErrWriteOperationLog();
     message.ErrWriteOperationLog();
     out += log.TakeLines();
@@ -129,8 +129,8 @@ void UseLists(Seed& seed, std::string& out) {
     }
     CKRMList<CKRMCCommandWordsData> copy(words);
     copy.AddTail(&words);
-    Describe(copy, out);
-    Describe(numbers, out);
+    out += Described(copy);
+    out += Described(numbers);
 }
 
 void UseTree(Seed& seed, std::string& out) {
@@ -164,7 +164,7 @@ void UseBufferAndMap(Seed& seed, std::string& out) {
     }
     const CKRMBinary copy(binary);
     out += std::to_string(copy.GetPos());
-    Describe(map, out);
+    out += Described(map);
 }
 
 /// All that a thread does with objects of its own, as a text of the results.
@@ -221,11 +221,11 @@ TEST(Threads, SharedObjectsMayBeReadTogether) {
         threads.emplace_back([&, i] {
             for (int round = 0; round < 20; ++round) {
                 CKRMCGetDTCCmdAdaptDataRcv copy(shared);
-                Describe(copy, results[i]);
+                results[i] += Described(copy);
                 CKRMCCommandConvSignalDataDate2 converter(date);  // counts the owners of one locale
                 CKRMCCommandDispData record;
                 Arguments({}).Raw(converter, &record, 0x07E70C1F);
-                Describe(record.m_strDataPhys, results[i]);
+                results[i] += Described(record.m_strDataPhys);
             }
         });
     }

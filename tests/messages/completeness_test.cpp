@@ -39,11 +39,20 @@ struct ListedMessage {
     krm_ulong typeConstant;
     krm_ulong idConstant;
     CKRMBaseAdaptationData& (*untyped)(void* it);
-    void* (*typed)(CKRMBaseAdaptationData& it);  ///< null where the object is not of just this class
+    const std::type_info& (*typeInfo)();
 };
 
 void PrintTo(const ListedMessage& message, std::ostream* out) {
     *out << message.name;
+}
+
+template <class Message>
+CKRMBaseAdaptationData& Untyped(void* it) {
+    return *static_cast<Message*>(it);
+}
+template <class Message>
+const std::type_info& TypeInfo() {
+    return typeid(Message);
 }
 
 template <class Message, class Base>
@@ -52,23 +61,32 @@ constexpr ListedMessage Listed(const char* name, krm_ulong type, krm_ulong id, s
             type,
             id,
             command,
-            AnyClassOf<Message>(),
+            AnyClassOf<Message>(nullptr),
             sizeof(Base),
             std::is_base_of_v<Base, Message>,
             Message::kDirection,
             Message::kCommandType,
             Message::kCommandId,
-            [](void* it) -> CKRMBaseAdaptationData& { return *static_cast<Message*>(it); },
-            [](CKRMBaseAdaptationData& it) -> void* {
-                return typeid(it) == typeid(Message) ? static_cast<Message*>(&it) : nullptr;
-            }};
+            &Untyped<Message>,
+            &TypeInfo<Message>};
 }
 
 #define KRM_LISTED(Class, Base, type, id, command) Listed<Class, Base>(#Class, type, id, command),
-constexpr ListedMessage kMessages[] = {KRM_ALL_MESSAGES(KRM_LISTED)};
+constexpr ListedMessage kListed[] = {KRM_ALL_MESSAGES(KRM_LISTED)};
 #undef KRM_LISTED
 
-class EveryMessage : public testing::TestWithParam<ListedMessage> {};
+const std::vector<ListedMessage> kMessages = [] {
+    std::vector<ListedMessage> messages(std::begin(kListed), std::end(kListed));
+    for (ListedMessage& message : messages) {
+        message.any.type = krm::test::FindType(message.name);
+    }
+    return messages;
+}();
+
+class EveryMessage : public testing::TestWithParam<ListedMessage> {
+protected:
+    void SetUp() override { krm::test::AssertDescribed(GetParam().any, GetParam().name); }
+};
 INSTANTIATE_TEST_SUITE_P(All, EveryMessage, testing::ValuesIn(kMessages),
                          [](const auto& test) { return std::string(test.param.name); });
 
@@ -76,14 +94,16 @@ TEST_P(EveryMessage, HasItsBaseTypeAndId) {
     EXPECT_TRUE(GetParam().hasItsBase);
     EXPECT_EQ(GetParam().typeConstant, GetParam().type);
     EXPECT_EQ(GetParam().idConstant, GetParam().id);
-    const AnyClass::Object it = GetParam().any.make();
+    const AnyClass::Object it = GetParam().any.Make();
     const CKRMBaseAdaptationData& message = GetParam().untyped(it.get());
     EXPECT_EQ(message.GetCommandType(), GetParam().type);
     EXPECT_EQ(message.GetCommandID(), GetParam().id);
+    // By its address alone tests find type and ID of a message that another one holds.
+    EXPECT_EQ(krm::test::MessageAt(*GetParam().any.type, it.get()), &message);
 }
 
 TEST_P(EveryMessage, ClearRestoresTypeAndId) {
-    const AnyClass::Object it = GetParam().any.make();
+    const AnyClass::Object it = GetParam().any.Make();
     CKRMBaseAdaptationData& message = GetParam().untyped(it.get());
     message.SetCommandID(99);
     message.SetCommandType(0);
@@ -120,11 +140,11 @@ TEST_P(EveryMessage, IsMadeFromTypeIdAndDirection) {
     EXPECT_EQ(GetParam().direction, direction);
     const std::unique_ptr<CKRMBaseAdaptationData> made = krm::NewMessage(GetParam().type, GetParam().id, direction);
     ASSERT_NE(made, nullptr);
-    void* const typed = GetParam().typed(*made);
     const CKRMBaseAdaptationData& object = *made;
-    ASSERT_NE(typed, nullptr) << typeid(object).name();
-    const AnyClass::Object fresh = GetParam().any.make();
-    EXPECT_EQ(GetParam().any.describe(typed), GetParam().any.describe(fresh.get()));
+    ASSERT_TRUE(typeid(object) == GetParam().typeInfo()) << typeid(object).name();
+    const AnyClass::Object fresh = GetParam().any.Make();
+    EXPECT_EQ(krm::test::Described(*GetParam().any.type, dynamic_cast<const void*>(&object)),
+              GetParam().any.Described(fresh));
 }
 
 TEST(NewMessage, GivesNullForWhatIsNoMessages) {

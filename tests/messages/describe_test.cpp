@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <memory>
 #include <set>
+#include <stdexcept>
 #include <string>
-#include <type_traits>
+#include <string_view>
 
 #include "krm/framework/commands.h"
 #include "krm/framework/dump.h"
@@ -37,31 +39,40 @@ TEST(NameOfMessage, FourOfTheViewerAreSpelledTheirOwnWay) {
     EXPECT_EQ(NameOf(CKRMCGetPcViewerResourceVdcAdptDataRcv()), "CKRMCGetPcViewerResourceVdcAdptDataRcv");
 }
 
-/// The name of `Message` as the compiler knows it.
-template <class Message>
-std::string CompilersName() {
+/// The name of a message's class in the compiler's text with it.
 #if defined(__GNUC__)
-    const std::string text = __PRETTY_FUNCTION__;  // ... [with Message = CKRMCGetDTC...Snd; ...
+std::string NameIn(std::string_view text) {  // ... [with Message = CKRMCGetDTC...Snd; ...
     const std::size_t start = text.find("Message = ") + 10;
-    return text.substr(start, text.find_first_of(";]", start) - start);
+    return std::string(text.substr(start, text.find_first_of(";]", start) - start));
+}
+#define KRM_TEXT_WITH_MESSAGE __PRETTY_FUNCTION__
 #else
-    const std::string text = __FUNCSIG__;  // ...CompilersName<class CKRMCGetDTC...Snd>(void)
+std::string NameIn(std::string_view text) {  // ...ExpectName<class CKRMCGetDTC...Snd>(void)
     const std::size_t start = text.find("<class ") + 7;
-    return text.substr(start, text.find('>', start) - start);
+    return std::string(text.substr(start, text.find('>', start) - start));
+}
+#define KRM_TEXT_WITH_MESSAGE __FUNCSIG__
 #endif
+
+std::unique_ptr<CKRMBaseAdaptationData> MessageOf(krm_ulong type, krm_ulong id, Direction direction) {
+    std::unique_ptr<CKRMBaseAdaptationData> message = krm::NewMessage(type, id, direction);
+    if (message == nullptr) {
+        throw std::logic_error("a message that NewMessage doesn't know");
+    }
+    return message;
 }
 
-template <class Message>
-std::string UntypedName(const Message& message) {
-    const CKRMBaseAdaptationData& untyped = message;
-    return NameOf(untyped, Message::kDirection);
+void ExpectBoth(const std::string& typed, const std::string& untyped, const std::string& compilers) {
+    EXPECT_EQ(typed, compilers);
+    EXPECT_EQ(untyped, compilers);
 }
 
 template <class Message>
 void ExpectName() {
-    const Message message;
-    EXPECT_EQ(NameOf(message), CompilersName<Message>());
-    EXPECT_EQ(UntypedName(message), CompilersName<Message>());
+    const std::unique_ptr<CKRMBaseAdaptationData> made =
+        MessageOf(Message::kCommandType, Message::kCommandId, Message::kDirection);
+    ExpectBoth(NameOf(static_cast<const Message&>(*made)), NameOf(*made, Message::kDirection),
+               NameIn(KRM_TEXT_WITH_MESSAGE));
 }
 
 template <class... Messages>

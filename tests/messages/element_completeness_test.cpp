@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 #include "krm/core/list.h"
 #include "krm/fields/all_fields.h"
@@ -33,6 +34,7 @@ struct ListedElement {
     bool isPolymorphic;
     bool hasVirtualDestructor;
     AnyClass list;
+    void (*addElement)(void* list, const void* element);
     void (*append)(void* list, const void* other);
 };
 
@@ -41,23 +43,48 @@ void PrintTo(const ListedElement& element, std::ostream* out) {
 }
 
 template <class Element>
+void AddElement(void* list, const void* element) {
+    static_cast<CKRMList<Element>*>(list)->AddTail(*static_cast<const Element*>(element));
+}
+template <class Element>
+void Append(void* list, const void* other) {
+    static_cast<CKRMList<Element>*>(list)->AddTail(static_cast<const CKRMList<Element>*>(other));
+}
+
+template <class Element>
 constexpr ListedElement Listed(const char* name, Kind kind) {
-    using List = CKRMList<Element>;
     return {name,
             kind,
-            AnyClassOf<Element>(),
+            AnyClassOf<Element>(nullptr),
             std::is_base_of_v<CKRMCBaseAdaptDataStructure, Element>,
             std::is_polymorphic_v<Element>,
             std::has_virtual_destructor_v<Element>,
-            AnyClassOf<List>(),
-            [](void* list, const void* other) { static_cast<List*>(list)->AddTail(static_cast<const List*>(other)); }};
+            AnyClassOf<CKRMList<Element>>(nullptr),
+            &AddElement<Element>,
+            &Append<Element>};
 }
 
 #define KRM_LISTED(name, kind) Listed<name>(#name, Kind::kind),
-constexpr ListedElement kElements[] = {KRM_ALL_LIST_ELEMENTS(KRM_LISTED)};
+constexpr ListedElement kListed[] = {KRM_ALL_LIST_ELEMENTS(KRM_LISTED)};
 #undef KRM_LISTED
 
-class EveryListElement : public testing::TestWithParam<ListedElement> {};
+const std::vector<ListedElement> kElements = [] {
+    std::vector<ListedElement> elements(std::begin(kListed), std::end(kListed));
+    for (ListedElement& element : elements) {
+        element.any.type = krm::test::FindType(element.name);
+        element.list.type = krm::test::FindListOf(element.name);
+    }
+    return elements;
+}();
+
+class EveryListElement : public testing::TestWithParam<ListedElement> {
+protected:
+    void SetUp() override {
+        krm::test::AssertDescribed(GetParam().any, GetParam().name);
+        krm::test::AssertDescribed(GetParam().list, "");
+        ASSERT_EQ(GetParam().list.type->element->className, GetParam().name);
+    }
+};
 INSTANTIATE_TEST_SUITE_P(All, EveryListElement, testing::ValuesIn(kElements),
                          [](const auto& test) { return std::string(test.param.name); });
 
@@ -88,10 +115,17 @@ TEST_P(EveryListElement, AssignmentsShareNothing) {
 }
 
 TEST_P(EveryListElement, ListsAreCopiedWithTheirElements) {
+    krm::test::Seed seed(24);
+    const AnyClass::Object element = GetParam().any.Make();
+    GetParam().any.Fill(element, seed);
+    const AnyClass::Object list = GetParam().list.Make();
+    GetParam().addElement(list.get(), element.get());
+    EXPECT_EQ(GetParam().list.Described(list), "[1:" + GetParam().any.Described(element) + ']');
+
     krm::test::ExpectCopiesShareNothing(GetParam().list);
     krm::test::ExpectAssignmentsShareNothing(GetParam().list);
     krm::test::ExpectNothingShared(GetParam().list, [](const void* source) {
-        AnyClass::Object target = GetParam().list.make();
+        AnyClass::Object target = GetParam().list.Make();
         GetParam().append(target.get(), source);
         return target;
     });

@@ -6,14 +6,19 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <functional>
 #include <iterator>
+#include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
-#include "krm/fields/all_fields.h"
+#include "krm/fields/message_descriptions.h"
+#include "krm/framework/message.h"
 #include "krm/framework/record.h"
+#include "krm/messages/all_messages.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_capture.h"
@@ -68,33 +73,26 @@ std::string Format(const char* format, std::uint32_t number) {
     return text;
 }
 
-template <class T>
-void Collect(T& it, Shown& shown) {
-    if constexpr (std::is_integral_v<T>) {
-        const auto number = static_cast<std::uint32_t>(it);
+void Collect(const TypeDescription& type, void* it, Shown& shown) {
+    const ConstValue value(type, it);
+    if (const std::optional<krm_int64> integer = value.Integer()) {
+        const auto number = static_cast<std::uint32_t>(*integer);
         shown.signedNumbers.insert(Format("%d", number));
         shown.unsignedNumbers.insert(Format("%u", number));
         shown.hexadecimals.insert(Format("%X", number));
-    } else if constexpr (std::is_same_v<T, double>) {
+    } else if (const double* const real = value.As<double>()) {
         CKRMString text;
-        text.Format("%lf", it);
+        text.Format("%lf", *real);
         shown.texts.insert(text.GetText());
-    } else if constexpr (std::is_same_v<T, CKRMString>) {
-        shown.texts.insert(it.GetText());
-    } else if constexpr (std::is_array_v<T> || kIsList<T>) {
-        if constexpr (kIsList<T>) {
-            shown.signedNumbers.insert(std::to_string(it.GetCount()));
-        }
-        for (auto& element : it) {
-            Collect(element, shown);
-        }
-    } else if constexpr (!std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
-        if constexpr (std::is_base_of_v<CKRMBaseAdaptationData, T>) {
-            shown.signedNumbers.insert(std::to_string(it.GetCommandType()));
-            shown.signedNumbers.insert(std::to_string(it.GetCommandID()));
-        }
-        ForEachField(it, [&](std::string_view, auto& field) { Collect(field, shown); });
+    } else if (const CKRMString* const text = value.As<CKRMString>()) {
+        shown.texts.insert(text->GetText());
+    } else if (value.Kind() == ValueKind::List) {
+        shown.signedNumbers.insert(std::to_string(value.Count()));
+    } else if (const CKRMBaseAdaptationData* const message = MessageAt(type, it)) {
+        shown.signedNumbers.insert(std::to_string(message->GetCommandType()));
+        shown.signedNumbers.insert(std::to_string(message->GetCommandID()));
     }
+    ForEachPart(type, it, [&](const TypeDescription& part, void* at) { Collect(part, at, shown); });
 }
 
 std::string WithoutIndices(std::string_view name) {
@@ -135,31 +133,68 @@ void ExpectLineOf(const Shown& shown, const std::string& line) {
     }
 }
 
-template <class Class>
-void ExpectEachNumberAsDocumented(const char* name) {
+/// The object is filled with `seed`; `write` returns what its own operation does.
+void ExpectAsDocumented(const TypeDescription& type, void* it, Seed seed, const std::function<krm_long()>& write) {
+    Fill(type, it, seed);
+    Shown shown;
+    Collect(type, it, shown);
+    LogCapture log(-1);
+    EXPECT_EQ(write(), 0);
+    for (const std::string& line : log.Texts()) {
+        ExpectLineOf(shown, line);
+    }
+}
+
+constexpr std::uint32_t kObjects = 6;  // of each class
+
+Seed SeedOf(std::uint32_t number) {
+    return Seed(number * 0x9E3779B9U);
+}
+
+void ExpectMessagesAsDocumented(const char* name, krm_ulong commandType, krm_ulong commandId) {
     SCOPED_TRACE(name);
-    for (std::uint32_t first = 1; first <= 6; ++first) {
-        Seed seed(first * 0x9E3779B9U);
-        Class object{};
-        Fill(object, seed);
-        Shown shown;
-        Collect(object, shown);
-        LogCapture log(-1);
-        if constexpr (std::is_base_of_v<CKRMCBaseAdaptDataStructure, Class>) {
-            EXPECT_EQ(object.ErrWriteOperationLogStructure("%s", name), 0);
-        } else if constexpr (requires { object.ErrWriteOperationLog(); }) {
-            EXPECT_EQ(object.ErrWriteOperationLog(), 0);
-        }
-        for (const std::string& line : log.Texts()) {
-            ExpectLineOf(shown, line);
-        }
+    const Direction direction = std::string_view(name).ends_with("Snd") ? Direction::Send : Direction::Receive;
+    const MessageDescription* const description = FindMessage(commandType, commandId, direction);
+    ASSERT_NE(description, nullptr);
+    ASSERT_EQ(description->className, name);
+    for (std::uint32_t number = 1; number <= kObjects; ++number) {
+        const std::unique_ptr<CKRMBaseAdaptationData> message = description->create();
+        auto* const logged = dynamic_cast<LoggedMessage*>(message.get());
+        EXPECT_EQ(logged == nullptr, description->family == CommandFamily::Viewer);
+        ExpectAsDocumented(*description->content, description->object(message.get()), SeedOf(number),
+                           [&] { return logged != nullptr ? logged->ErrWriteOperationLog() : 0; });
+    }
+}
+
+// How a record is made; null for a class that has no dump.
+using NewRecord = std::unique_ptr<CKRMCBaseAdaptDataStructure> (*)();
+template <class Element>
+constexpr NewRecord NewRecordOf() {
+    if constexpr (std::is_base_of_v<CKRMCBaseAdaptDataStructure, Element>) {
+        return []() -> std::unique_ptr<CKRMCBaseAdaptDataStructure> { return std::make_unique<Element>(); };
+    } else {
+        static_assert(!requires(Element element) { element.ErrWriteOperationLog(); });
+        return nullptr;
+    }
+}
+
+void ExpectRecordsAsDocumented(const char* name, NewRecord newRecord) {
+    SCOPED_TRACE(name);
+    const TypeDescription* const type = FindType(name);
+    ASSERT_NE(type, nullptr);
+    for (std::uint32_t number = 1; newRecord != nullptr && number <= kObjects; ++number) {
+        const std::unique_ptr<CKRMCBaseAdaptDataStructure> record = newRecord();
+        ExpectAsDocumented(*type, dynamic_cast<void*>(record.get()), SeedOf(number),
+                           [&] { return record->ErrWriteOperationLogStructure("%s", name); });
     }
 }
 
 TEST(LogNumbers, AreDecimalAndSignedButForTheListed) {
     KRM_NOT_UNDER(Memcheck, "it would take minutes");
-#define KRM_CHECK(Class, ...) ExpectEachNumberAsDocumented<Class>(#Class);
+#define KRM_CHECK(Class, Base, type, id, ...) ExpectMessagesAsDocumented(#Class, type, id);
     KRM_ALL_MESSAGES(KRM_CHECK)
+#undef KRM_CHECK
+#define KRM_CHECK(Class, kind) ExpectRecordsAsDocumented(#Class, NewRecordOf<Class>());
     KRM_ALL_LIST_ELEMENTS(KRM_CHECK)
 #undef KRM_CHECK
 }

@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <string>
+#include <memory>
+#include <string_view>
 #include <type_traits>
 
 #include "krm/adaptation_data.h"
@@ -12,6 +13,7 @@
 #include "krm/exchange/json.h"
 #endif
 #include "krm/fields/all_fields.h"
+#include "krm/fields/message_descriptions.h"
 #include "tests/support/all_classes.h"
 #include "tests/support/fields.h"
 #include "tests/support/log_sink.h"
@@ -29,23 +31,36 @@ krm_long WriteLogLine(void*, const char* text, krm_ulong length, int first, int 
     return 0;
 }
 
-/// A filled object of `Class`: all that it holds, then its dump where it has one, then its JSON where that has one.
-template <class Class>
-void WriteObject(const char* name, std::uint32_t seedValue) {
+/// Fills an object and writes all that it holds.
+void WriteContent(const char* name, const krm::TypeDescription& type, void* it, std::uint32_t seedValue) {
     Seed seed(seedValue);
-    Class object{};
-    krm::test::Fill(object, seed);
-    std::fprintf(g_out, "%s %s\n", name, krm::test::Described(object).c_str());
-    if constexpr (std::is_base_of_v<CKRMCBaseAdaptDataStructure, Class>) {
-        object.ErrWriteOperationLogStructure("[%s] Data[%d]", name, 3);
-    } else if constexpr (requires { object.ErrWriteOperationLog(); }) {
-        object.ErrWriteOperationLog();
+    krm::test::Fill(type, it, seed);
+    std::fprintf(g_out, "%s %s\n", name, krm::test::Described(type, it).c_str());
+}
+
+/// A filled message: all that it holds, then its dump where it has one, then its JSON.
+void WriteMessage(const char* name, krm_ulong type, krm_ulong id, std::uint32_t seed) {
+    const krm::Direction direction =
+        std::string_view(name).ends_with("Snd") ? krm::Direction::Send : krm::Direction::Receive;
+    const krm::MessageDescription& description = *krm::FindMessage(type, id, direction);
+    const std::unique_ptr<CKRMBaseAdaptationData> message = description.create();
+    WriteContent(name, *description.content, description.object(message.get()), seed);
+    if (auto* const logged = dynamic_cast<krm::LoggedMessage*>(message.get())) {
+        logged->ErrWriteOperationLog();
     }
 #ifdef KRM_PARITY_JSON
-    if constexpr (std::is_base_of_v<CKRMBaseAdaptationData, Class>) {
-        std::fprintf(g_out, "%s\n", krm::ToJson(object).c_str());
-    }
+    std::fprintf(g_out, "%s\n", krm::ToJson(*message, description).c_str());
 #endif
+}
+
+/// A filled object of a class that lists hold: all that it holds, then its dump where it has one.
+template <class Element>
+void WriteElement(const char* name, std::uint32_t seed) {
+    Element element{};
+    WriteContent(name, krm::test::TypeOf<Element>(), &element, seed);
+    if constexpr (std::is_base_of_v<CKRMCBaseAdaptDataStructure, Element>) {
+        element.ErrWriteOperationLogStructure("[%s] Data[%d]", name, 3);
+    }
 }
 
 /// Values that a conversion treats apart come often.
@@ -156,8 +171,10 @@ int main(int argc, char** argv) {
     krm::test::SetLogSink(&WriteLogLine, nullptr);
     WriteConversions();
     std::uint32_t seed = 1;
-#define KRM_WRITE(Class, ...) WriteObject<Class>(#Class, seed++);
+#define KRM_WRITE(Class, Base, type, id, command) WriteMessage(#Class, type, id, seed++);
     KRM_ALL_MESSAGES(KRM_WRITE)
+#undef KRM_WRITE
+#define KRM_WRITE(Class, kind) WriteElement<Class>(#Class, seed++);
     KRM_ALL_LIST_ELEMENTS(KRM_WRITE)
 #undef KRM_WRITE
     const bool written = std::ferror(g_out) == 0;

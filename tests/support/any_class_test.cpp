@@ -6,7 +6,7 @@
 
 #include <cstddef>
 #include <memory>
-#include <string_view>
+#include <string>
 
 struct SoundExample {
     void Clear() { *this = SoundExample(); }
@@ -61,26 +61,28 @@ struct ExampleThatSharesItsList {
     void Clear() { list->RemoveAll(); }
     std::shared_ptr<CKRMList<int>> list = std::make_shared<CKRMList<int>>();
 };
-// What it shares is no member of its own.
-struct SharedList {
-    static constexpr std::string_view name = "list";
-    static auto& In(ExampleThatSharesItsList& it) { return *it.list; }
-};
 template <>
-struct krm::Fields<ExampleThatSharesItsList> {
-    static constexpr std::size_t kCount = 1;
-    template <class Visitor>
-    static constexpr void ForEach(Visitor&& visitor) {
-        visitor(SharedList());
-    }
-};
+struct krm::Fields<ExampleThatSharesItsList> : krm::FieldList<> {};
 
 namespace {
 
+using krm::test::AnyClass;
 using krm::test::AnyClassOf;
 
+template <class T>
+AnyClass Any() {
+    return AnyClassOf<T>(&krm::kTypeDescription<T>);
+}
+
+// What it shares is no member of its own.
+constexpr krm::FieldDescription kSharedList[] = {{"list", &krm::kTypeDescription<CKRMList<int>>, [](void* it) -> void* {
+                                                      return static_cast<ExampleThatSharesItsList*>(it)->list.get();
+                                                  }}};
+constexpr krm::TypeDescription kWithSharedList = {
+    krm::ValueKind::Record, sizeof(ExampleThatSharesItsList), "", kSharedList, nullptr, 0, nullptr, nullptr};
+
 TEST(AnyClass, ASoundClassPassesEveryCheck) {
-    constexpr auto any = AnyClassOf<SoundExample>();
+    const auto any = Any<SoundExample>();
     krm::test::ExpectFieldsFillTheObject(any, 0);
     krm::test::ExpectDocumentedStart(any);
     krm::test::ExpectClearRestoresTheStart(any);
@@ -89,21 +91,21 @@ TEST(AnyClass, ASoundClassPassesEveryCheck) {
 }
 
 TEST(AnyClass, FindsAFieldThatIsNotListed) {
-    EXPECT_NONFATAL_FAILURE(krm::test::ExpectFieldsFillTheObject(AnyClassOf<ExampleWithUnlistedField>(), 0),
+    EXPECT_NONFATAL_FAILURE(krm::test::ExpectFieldsFillTheObject(Any<ExampleWithUnlistedField>(), 0),
                             "between two listed ones");
-    EXPECT_NONFATAL_FAILURE(krm::test::ExpectFieldsFillTheObject(AnyClassOf<ExampleWithUnlistedEnd>(), 0),
+    EXPECT_NONFATAL_FAILURE(krm::test::ExpectFieldsFillTheObject(Any<ExampleWithUnlistedEnd>(), 0),
                             "after the last one listed");
     EXPECT_NONFATAL_FAILURE(
-        krm::test::ExpectFieldsFillTheObject(AnyClassOf<ExampleWithUnlistedFirst>(), sizeof(CKRMCBaseCmdAdaptDataRcv)),
+        krm::test::ExpectFieldsFillTheObject(Any<ExampleWithUnlistedFirst>(), sizeof(CKRMCBaseCmdAdaptDataRcv)),
         "before the first one listed");
 }
 
 TEST(AnyClass, FindsAWrongStart) {
-    EXPECT_NONFATAL_FAILURE(krm::test::ExpectDocumentedStart(AnyClassOf<ExampleThatStartsAtOne>()), "");
+    EXPECT_NONFATAL_FAILURE(krm::test::ExpectDocumentedStart(Any<ExampleThatStartsAtOne>()), "");
 }
 
 TEST(AnyClass, FindsAClearThatDoesNot) {
-    EXPECT_NONFATAL_FAILURE(krm::test::ExpectClearRestoresTheStart(AnyClassOf<ExampleWithIdleClear>()), "");
+    EXPECT_NONFATAL_FAILURE(krm::test::ExpectClearRestoresTheStart(Any<ExampleWithIdleClear>()), "");
 }
 
 TEST(AnyClass, FindsSharedState) {
@@ -111,7 +113,7 @@ TEST(AnyClass, FindsSharedState) {
     {
         const testing::ScopedFakeTestPartResultReporter reporter(
             testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &failures);
-        krm::test::ExpectCopiesShareNothing(AnyClassOf<ExampleThatSharesItsList>());
+        krm::test::ExpectCopiesShareNothing(AnyClassOf<ExampleThatSharesItsList>(&kWithSharedList));
     }
     ASSERT_GE(failures.size(), 1);
     EXPECT_NE(std::string(failures.GetTestPartResult(0).message()).find("reaches the source"), std::string::npos);

@@ -1,14 +1,20 @@
 // What tests do with any record or message by way of its fields: fill an object, change it, describe all that it holds, see
-// whether anything is set. The test of a class includes the header of krm/fields/ that has it.
+// whether anything is set.
+//
+// An object comes as its description at run time (krm/fields/message_descriptions.h) and its address, so that all this is
+// compiled once for all classes: a template for each of them takes the compiler minutes. That the description of a class
+// says what the class has is tested by fields/message_descriptions_test.cpp. For a class of the library it is the one that
+// the library itself has compiled; the test of such a class includes the header of krm/fields/ that has it.
 #ifndef KRM_TESTS_SUPPORT_FIELDS_H_
 #define KRM_TESTS_SUPPORT_FIELDS_H_
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
-#include "krm/fields/fields.h"
+#include "krm/fields/message_descriptions.h"
 #include "krm/platform/platform.h"
 
 namespace krm::test {
@@ -28,143 +34,73 @@ private:
     std::uint32_t m_state;
 };
 
+/// The library's description of its class of this name; null where it has none.
+const TypeDescription* FindType(std::string_view className);
+/// The library's description of the list of this class; null where it has none.
+const TypeDescription* FindListOf(std::string_view className);
+/// The message that a record is; null for what is no message of the library.
+const CKRMBaseAdaptationData* MessageAt(const TypeDescription& type, const void* it);
+
+/// Calls `visitor(const TypeDescription& type, void* address)` for each field of a record and each element of a list or an
+/// array. What krm::Value does, but for the address.
+template <class Visitor>
+void ForEachPart(const TypeDescription& type, void* it, const Visitor& visitor) {
+    for (const FieldDescription& field : type.fields) {
+        visitor(*field.type, field.in(it));
+    }
+    if (type.list != nullptr) {
+        const auto visit = [&](void* element) { visitor(*type.element, element); };
+        type.list->forEach(it, const_cast<void*>(static_cast<const void*>(&visit)), [](void* context, void* element) {
+            (*static_cast<const decltype(visit)*>(context))(element);
+        });
+    }
+    for (int i = 0; i < type.length; ++i) {
+        visitor(*type.element, static_cast<char*>(it) + static_cast<std::size_t>(i) * type.element->size);
+    }
+}
+
 /// Fills `it` and all it holds with values that are not its defaults; each list gets two elements more.
+void Fill(const TypeDescription& type, void* it, Seed& seed);
+/// A message of this class, filled.
+std::unique_ptr<CKRMBaseAdaptationData> FilledMessage(const MessageDescription& description, std::uint32_t seed);
+/// Changes every value that `it` holds, at any depth; lists and maps keep their length.
+void Change(const TypeDescription& type, void* it, Seed& seed);
+/// Whether every field of `it`, at any depth, is 0, false or empty.
+bool IsZero(const TypeDescription& type, const void* it);
+/// Whether `it` has a list, at any depth, that is empty, or a value that is 0: after Fill there is none.
+bool HasUnfilled(const TypeDescription& type, const void* it);
+/// All that `it` holds, written out one value after the other: equal texts mean equal contents.
+std::string Described(const TypeDescription& type, const void* it);
+
+/// The library's description of its class of this name. Throws std::logic_error where it has none of this size.
+const TypeDescription& LibraryType(std::string_view className, std::size_t size);
+
+/// The description of a number, a text, a list or a class of the library; a test's own class has krm::kTypeDescription.
+template <class T>
+const TypeDescription& TypeOf() {
+    if constexpr (HasFields<T>) {
+        return LibraryType(kClassName<T>, sizeof(T));
+    } else {
+        return kTypeDescription<T>;
+    }
+}
+
+// The same for an object whose class the test knows.
 template <class T>
 void Fill(T& it, Seed& seed) {
-    if constexpr (std::is_same_v<T, bool>) {
-        it = true;
-    } else if constexpr (std::is_same_v<T, double>) {
-        it = static_cast<double>(static_cast<std::int32_t>(seed.Next())) / 1024.0 + 0.0625;
-    } else if constexpr (std::is_integral_v<T>) {
-        it = static_cast<T>(seed.Next() | 2U);
-    } else if constexpr (std::is_same_v<T, CKRMString>) {
-        it = ("text " + std::to_string(seed.Next())).c_str();
-    } else if constexpr (std::is_array_v<T>) {
-        for (auto& element : it) {
-            Fill(element, seed);
-        }
-    } else if constexpr (std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
-        for (int i = 0; i < 2; ++i) {
-            CKRMString key;
-            CKRMString value;
-            Fill(key, seed);
-            Fill(value, seed);
-            it.SetAt(key, value);
-        }
-    } else if constexpr (kIsList<T>) {
-        for (int i = 0; i < 2; ++i) {
-            ElementOf<T> element{};
-            Fill(element, seed);
-            it.AddTail(element);
-        }
-    } else {
-        ForEachField(it, [&](std::string_view, auto& field) { Fill(field, seed); });
-    }
+    Fill(TypeOf<T>(), &it, seed);
 }
-
-/// Changes every value that `it` holds, at any depth; lists and maps keep their length.
 template <class T>
 void Change(T& it, Seed& seed) {
-    if constexpr (std::is_same_v<T, bool>) {
-        it = !it;
-    } else if constexpr (std::is_integral_v<T>) {
-        it = static_cast<T>(it ^ 1);
-    } else if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, CKRMString>) {
-        Fill(it, seed);
-    } else if constexpr (std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
-        for (auto& [key, value] : it) {
-            Fill(value, seed);
-        }
-    } else if constexpr (kIsList<T> || std::is_array_v<T>) {
-        for (auto& element : it) {
-            Change(element, seed);
-        }
-    } else {
-        ForEachField(it, [&](std::string_view, auto& field) { Change(field, seed); });
-    }
+    Change(TypeOf<T>(), &it, seed);
 }
-
-/// Whether every field of `it`, at any depth, is 0, false or empty.
 template <class T>
-bool IsZero(T& it) {
-    if constexpr (std::is_arithmetic_v<T>) {
-        return it == T{};
-    } else if constexpr (std::is_same_v<T, CKRMString>) {
-        return it.GetLength() == 0;
-    } else if constexpr (std::is_array_v<T>) {
-        bool zero = true;
-        for (auto& element : it) {
-            zero = zero && IsZero(element);
-        }
-        return zero;
-    } else if constexpr (kIsList<T> || std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
-        return it.GetCount() == 0;
-    } else {
-        bool zero = true;
-        ForEachField(it, [&](std::string_view, auto& field) { zero = zero && IsZero(field); });
-        return zero;
-    }
+bool IsZero(const T& it) {
+    return IsZero(TypeOf<T>(), &it);
 }
-
-/// Whether `it` has a list, at any depth, that is empty, or a value that is 0: after Fill there is none.
 template <class T>
-bool HasUnfilled(T& it) {
-    if constexpr (std::is_arithmetic_v<T> || std::is_same_v<T, CKRMString> ||
-                  std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
-        return IsZero(it);
-    } else if constexpr (kIsList<T> || std::is_array_v<T>) {
-        bool unfilled = kIsList<T> && IsZero(it);
-        for (auto& element : it) {
-            unfilled = unfilled || HasUnfilled(element);
-        }
-        return unfilled;
-    } else {
-        bool unfilled = false;
-        ForEachField(it, [&](std::string_view, auto& field) { unfilled = unfilled || HasUnfilled(field); });
-        return unfilled;
-    }
-}
-
-/// All that `it` holds, written out one value after the other: equal texts mean equal contents.
-template <class T>
-void Describe(T& it, std::string& out) {
-    if constexpr (std::is_integral_v<T>) {
-        out += std::to_string(static_cast<std::int64_t>(it)) + ';';
-    } else if constexpr (std::is_same_v<T, double>) {
-        CKRMString text;
-        text.Format("%.17g;", it);
-        out += text.GetText();
-    } else if constexpr (std::is_same_v<T, CKRMString>) {
-        out += '"' + std::string(it.GetText()) + "\";";
-    } else if constexpr (std::is_array_v<T>) {
-        for (auto& element : it) {
-            Describe(element, out);
-        }
-    } else if constexpr (std::is_same_v<T, CKRMMap<CKRMString, CKRMString>>) {
-        for (const auto& [key, value] : it) {
-            out += std::string(key.GetText()) + '=' + value.GetText() + ';';
-        }
-    } else if constexpr (kIsList<T>) {
-        out += '[' + std::to_string(it.GetCount()) + ':';
-        for (auto& element : it) {
-            Describe(element, out);
-        }
-        out += ']';
-    } else {
-        out += '{';
-        if constexpr (std::is_base_of_v<CKRMBaseAdaptationData, T>) {
-            out += std::to_string(it.GetCommandType()) + '/' + std::to_string(it.GetCommandID()) + ' ';
-        }
-        ForEachField(it, [&](std::string_view, auto& field) { Describe(field, out); });
-        out += '}';
-    }
-}
-
-template <class T>
-std::string Described(T& it) {
-    std::string out;
-    Describe(it, out);
-    return out;
+std::string Described(const T& it) {
+    return Described(TypeOf<T>(), &it);
 }
 
 }  // namespace krm::test

@@ -161,14 +161,14 @@ TEST(SetCustomizeItem, AnswerWritesTheFieldsOfEachResult) {
     result.m_ushCustomizeItemId = 2;
     result.m_bSuccess = true;
     answer.Data.AddTail(result);
-    result.m_bSuccess = false;
+    result.Clear();
     answer.Data.AddTail(result);
     ExpectLog(answer, {AnswerBaseLines(61, 0), R"(
 [CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ushCustomizeId=1
 [CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_ushCustomizeItemId=2
 [CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_bSuccess=1
-[CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ushCustomizeId=1
-[CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ushCustomizeItemId=2
+[CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ushCustomizeId=0
+[CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_ushCustomizeItemId=0
 [CKRMCSetCustomizeItemCmdAdaptDataRcv::ErrWriteOperationLog] Data[1].m_bSuccess=0
 )"});
 }
