@@ -1,8 +1,10 @@
 // krm_bench: runs all workloads and prints the tables to standard output, progress to standard error.
 //
-// Takes the options of Google Benchmark, and --tables=FILE to write the tables to a file too.
+// Takes the options of Google Benchmark, --rounds=N to run everything as often, and --tables=FILE to write the tables to a
+// file too.
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -29,20 +31,27 @@ int main(int argc, char** argv) {
 
     benchmark::Initialize(&argc, argv);
     std::string file;
+    int rounds = 1;
     for (int i = 1; i < argc; ++i) {
         constexpr std::string_view kTables = "--tables=";
+        constexpr std::string_view kRounds = "--rounds=";
         const std::string_view argument = argv[i];
-        if (!argument.starts_with(kTables)) {
+        if (argument.starts_with(kTables)) {
+            file = argument.substr(kTables.size());
+        } else if (argument.starts_with(kRounds)) {
+            rounds = std::atoi(argv[i] + kRounds.size());
+        } else {
             std::cerr << "unknown option " << argument << '\n';
             return 2;
         }
-        file = argument.substr(kTables.size());
     }
 
     krm::bench::TableReporter reporter;
     reporter.SetOutputStream(&std::cerr);
     reporter.SetErrorStream(&std::cerr);
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    for (int round = 0; round < rounds; ++round) {
+        benchmark::RunSpecifiedBenchmarks(&reporter);
+    }
     benchmark::Shutdown();
 
     reporter.Print(std::cout);

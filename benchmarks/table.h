@@ -33,10 +33,8 @@ private:
         double lines = 0;
         bool isBytes = false;
     };
-    struct Growth {
-        std::map<std::int64_t, std::vector<double>> nanoseconds;  // by size
-        double rms = 0;                                           // distance from linear growth, as a share
-    };
+    /// Nanoseconds by size, one for each repetition.
+    using Growth = std::map<std::int64_t, std::vector<double>>;
 
     /// What several threads get done together in a second, by their number; one for each repetition.
     using Spread = std::map<std::int64_t, std::vector<double>>;

@@ -2,7 +2,8 @@
 """Puts what `./dev bench` measured on every build together to the second table of docs/performance.md.
 
     bench_table.py FOLDER    FOLDER/BUILD.tsv for each of the builds below: what krm_bench_platform wrote there, and rows
-                             "size: LIBRARY", bytes, and "header", seconds, seconds of the standard headers alone
+                             "size: LIBRARY", bytes, and "header", seconds, seconds of the standard headers alone;
+                             of a row that is there more than once, the least of each number counts
 
 A build without a file is left out, and so is each goal that needs it.
 """
@@ -27,9 +28,12 @@ def read(folder):
     for build in BUILDS:
         path = os.path.join(folder, build + ".tsv")
         if os.path.exists(path):
+            rows = measured[build] = {}
             with open(path, encoding="utf-8") as lines:
-                rows = (line.rstrip("\r\n").split("\t") for line in lines)
-                measured[build] = {row[0]: [float(number) for number in row[1:]] for row in rows}
+                for line in lines:
+                    what, *cells = line.rstrip("\r\n").split("\t")
+                    numbers = [float(cell) for cell in cells]
+                    rows[what] = [min(pair) for pair in zip(rows.get(what, numbers), numbers)]
     return measured
 
 
@@ -137,6 +141,9 @@ def main():
     measured = read(sys.argv[1])
     if not measured:
         sys.exit(f"{sys.argv[1]}: nothing was measured")
+    for build, rows in measured.items():
+        if "answer: copy" not in rows or not list_ratios(rows, "append"):
+            sys.exit(f"{sys.argv[1]}: {build} has no times")
     print()
     print("Least time of many rounds; in brackets the share of the peer's, which is `snprintf` with the conversions.\n")
     print_times(measured)

@@ -23,14 +23,13 @@ fi
 need "${build_tools[@]}" libbenchmark-dev libfmt-dev libprotobuf-dev protobuf-compiler libpugixml-dev nlohmann-json3-dev \
     libcli11-dev zlib1g-dev python3-minimal
 build bench krm_bench krm_bench_platform krm_exchange
-# Briefly once, to see that all of it works; else as often as a median needs, the sides in turn: what else the machine does
-# comes to all of them.
+# Briefly once, to see that all of it works; else in rounds.
 if [ -n "$quick" ]; then
     options=(--benchmark_min_time=0.01 "${options[@]}")
-    seconds=0.001 compilations=1
+    seconds=0.001 rounds=1 compilations=1
 else
-    options=(--benchmark_min_time=0.1 --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true "${options[@]}")
-    seconds=0.05 compilations=5
+    options=(--benchmark_min_time=0.03 --rounds=15 "${options[@]}")
+    seconds=0.03 rounds=3 compilations=3
 fi
 say "running the benchmarks"
 # One locale, so that the converters that follow the user's print the same everywhere.
@@ -50,11 +49,6 @@ compiler() {
     sed -n 's/^set(CMAKE_CXX_COMPILER "\(.*\)")$/\1/p' "build/$1"/CMakeFiles/*/CMakeCXXCompiler.cmake
 }
 
-# fewest SECONDS...: the least of them.
-fewest() {
-    printf '%s\n' "$@" | sort -g | head -n 1
-}
-
 # compile PRESET HEADER: the processor time that the preset's compiler takes for a file that includes just that.
 compile() {
     local flags TIMEFORMAT=%U
@@ -71,19 +65,18 @@ standard_headers() {
 
 # measure PRESET BUILD: writes what there is of a build for tools/bench_table.py.
 measure() {
-    local preset=$1 measured=build/bench/builds/$2.tsv library ours=() standard=() i
+    local preset=$1 measured=build/bench/builds/$2.tsv library i
     say "measuring $preset"
-    run_on "$preset" krm_bench_platform "$seconds" >"$measured"
+    run_on "$preset" krm_bench_platform "$seconds" >>"$measured"
     for library in platform adaptation_data exchange; do
         "$(cached "$preset" CMAKE_STRIP)" -o build/bench/builds/stripped "$(library_file "$preset" "$library")"
         printf 'size: %s\t%s\n' "$library" "$(stat -c %s build/bench/builds/stripped)" >>"$measured"
     done
     # In turn, so that both meet the same machine.
     for ((i = 0; i < compilations; ++i)); do
-        ours+=("$(compile "$preset" krm/adaptation_data.h)")
-        standard+=("$(compile "$preset" build/bench/builds/standard.h)")
+        printf 'header\t%s\t%s\n' "$(compile "$preset" krm/adaptation_data.h)" \
+            "$(compile "$preset" build/bench/builds/standard.h)" >>"$measured"
     done
-    printf 'header\t%s\t%s\n' "$(fewest "${ours[@]}")" "$(fewest "${standard[@]}")" >>"$measured"
 }
 
 # library_file PRESET LIBRARY: where the preset has put it.
@@ -97,7 +90,7 @@ library_file() {
 rm -rf build/bench/builds
 mkdir -p build/bench/builds
 standard_headers >build/bench/builds/standard.h
-measure bench linux64
+builds=(bench:linux64)
 for platform in linux32 windows-i686 windows-x86_64; do
     prepare "$platform"
     # Optimised like the first; where the times say nothing, the builds that the tests run on will do.
@@ -106,7 +99,13 @@ for platform in linux32 windows-i686 windows-x86_64; do
     say "building $preset"
     cmake --preset "$preset" -DKRM_BUILD_BENCHMARKS=ON >/dev/null
     cmake --build --preset "$preset" --target krm_bench_platform krm_exchange
-    measure "$preset" "$platform"
+    builds+=("$preset:$platform")
+done
+for ((round = 0; round < rounds; ++round)); do
+    for each in "${builds[@]}"; do
+        prepare "${each#*:}" # which wine runs the programs
+        measure "${each%:*}" "${each#*:}"
+    done
 done
 tools/bench_table.py build/bench/builds | tee build/bench/builds.md
 if [ -n "$write" ]; then
