@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/krm
 
 build_tools=(cmake ninja-build g++ make rapidjson-dev)
-test_tools=(googletest nlohmann-json3-dev libcli11-dev zlib1g-dev libpugixml-dev python3-minimal python3-jsonschema)
+test_tools=(googletest gdb lldb lnav nlohmann-json3-dev libcli11-dev zlib1g-dev libpugixml-dev python3-minimal python3-jsonschema)
 
 say() { printf '== %s\n' "$*"; }
 as_root() {
@@ -49,6 +49,17 @@ need_32_bits() {
     need "g++-$(g++ -dumpversion | cut -d. -f1)-multilib"
 }
 
+# What builds and tests the page, and drives Chromium: the packages of viewer/package-lock.json.
+need_viewer_packages() {
+    # Whoever has Node.js from elsewhere has npm with it, and can't have Debian's beside it.
+    command -v npm >/dev/null || need npm
+    if [ viewer/package-lock.json -nt viewer/node_modules/.package-lock.json ]; then
+        say "installing what builds and tests the page"
+        npm ci --prefix viewer --no-audit --no-fund --ignore-scripts --loglevel=error
+        touch viewer/node_modules/.package-lock.json
+    fi
+}
+
 # build PRESET [TARGET...]: configures and builds.
 build() {
     local preset=$1
@@ -73,16 +84,17 @@ write_table() {
     say "written to $3"
 }
 
-# i386_root FOLDER PACKAGE[,PACKAGE...]: makes a small i386 Debian with these packages, if it isn't there yet.
-i386_root() {
-    local root=$1 packages=$2 mirror
+# debian_root FOLDER ARCHITECTURE PACKAGE[,PACKAGE...]: makes a small Debian with these packages, if it isn't there yet.
+debian_root() {
+    local root=$1 architecture=$2 packages=$3 mirror
     [ ! -e "$root/.complete" ] || return 0
     need debootstrap
-    say "making an i386 root with $packages in $root"
+    say "making a Debian for $architecture with $packages in $root"
     # shellcheck disable=SC2016
     mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Codename: bookworm' | head -n 1)
     mkdir -p "$(dirname "$root")"
     as_root rm -rf "$root"
-    as_root debootstrap --arch=i386 --variant=minbase --include="$packages" bookworm "$root" "$mirror" >/dev/null
+    as_root debootstrap --arch="$architecture" --variant=minbase --include="$packages" bookworm "$root" "$mirror" >/dev/null
     as_root touch "$root/.complete"
 }
+i386_root() { debian_root "$1" i386 "$2"; }
