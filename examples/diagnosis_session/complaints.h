@@ -8,7 +8,7 @@
 #include <ostream>
 #include <string>
 
-#include "control_characters.h"
+#include "cli/terminal/control_characters.h"
 
 namespace diagnosis_session {
 
@@ -49,7 +49,7 @@ public:
             }
             m_out << ' ';
             for (const char character : what) {
-                m_out << (IsControl(character) ? '?' : character);
+                m_out << (terminal::IsControl(character) ? '?' : character);
             }
             m_out << '\n';
         };

@@ -6,6 +6,15 @@
 #include "krm/convert/converter.h"
 
 namespace diagnosis_session {
+
+/// Gives a converter back to the library that made it.
+struct DeleteConverter {
+    void operator()(CKRMCCommandConvSignalData* converter) const {
+        CKRMCCommandConvSignalData::DeleteConverter(converter);
+    }
+};
+using Converter = std::unique_ptr<CKRMCCommandConvSignalData, DeleteConverter>;
+
 namespace {
 
 // Conversion types, as CreateConverter takes them.
@@ -22,14 +31,6 @@ constexpr unsigned short kOnlyBus = 1;
 constexpr unsigned short kEcuAnswers = 1;
 
 constexpr std::size_t kVinLength = 17;
-
-/// Gives a converter back to the library that made it.
-struct DeleteConverter {
-    void operator()(CKRMCCommandConvSignalData* converter) const {
-        CKRMCCommandConvSignalData::DeleteConverter(converter);
-    }
-};
-using Converter = std::unique_ptr<CKRMCCommandConvSignalData, DeleteConverter>;
 
 std::string ReasonText(std::uint8_t reason) {
     switch (reason) {

@@ -1,20 +1,12 @@
 #include "output.h"
 
 #include <cerrno>
-#include <charconv>
 #include <cstring>
 
 #include "engine.h"
 #include "recording_file.h"
 
 namespace diagnosis_session {
-
-TextStream& TextStream::operator<<(std::uint64_t number) {
-    char digits[24];
-    const auto [end, error] = std::to_chars(digits, digits + sizeof digits, number);
-    m_text.append(digits, end);
-    return *this;
-}
 
 void TextStream::Flush() {
     if (m_text.empty()) {

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -12,6 +11,7 @@
 #include <vector>
 
 #include "can_recording.h"
+#include "cli/terminal/gathered_text.h"
 #include "exchange.h"
 #include "krm/messages/diag/freeze_frame_item.h"
 #include "krm/messages/diag/trouble_codes.h"
@@ -64,36 +64,14 @@ public:
 };
 
 /// Text on its way to a stream, written in large pieces. Throws FileError when the stream takes no more.
-class TextStream {
+class TextStream : public terminal::GatheredText<TextStream> {
 public:
     TextStream(std::ostream& out, std::string name) : m_out(out), m_name(std::move(name)) {}
-
-    TextStream& operator<<(std::string_view text) {
-        m_text += text;
-        return *this;
-    }
-    TextStream& operator<<(char character) {
-        m_text += character;
-        return *this;
-    }
-    TextStream& operator<<(std::uint64_t number);
-    /// Writes out what has gathered, if it is much.
-    void FlushIfMuch() {
-        if (m_text.size() >= kMuch) {
-            Flush();
-        }
-    }
     void Flush();
-    /// Called before something is written out.
-    void BeforeWriting(std::function<void()> call) { m_beforeWriting = std::move(call); }
 
 private:
-    static constexpr std::size_t kMuch = std::size_t{64} * 1024;
-
     std::ostream& m_out;
     std::string m_name;
-    std::string m_text;
-    std::function<void()> m_beforeWriting = [] {};
 };
 
 /// `time` with `decimals` decimal places, empty where there is none.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "control_characters.h"
+#include "cli/terminal/control_characters.h"
 #include "engine.h"
 #include "hex.h"
 #include "krm/framework/log_sinks.h"
@@ -34,11 +34,11 @@ std::string Count(std::uint64_t number, const char* what) {
 
 /// Text of a vehicle or a table on one line, whatever it holds. `changed` keeps it where it had to be changed.
 std::string_view OnOneLine(std::string_view text, std::string& changed) {
-    if (std::none_of(text.begin(), text.end(), IsControl)) {
+    if (std::none_of(text.begin(), text.end(), terminal::IsControl)) {
         return text;
     }
     changed = text;
-    std::replace_if(changed.begin(), changed.end(), IsControl, '?');
+    std::replace_if(changed.begin(), changed.end(), terminal::IsControl, '?');
     return changed;
 }
 std::string OnOneLine(std::string_view text) {

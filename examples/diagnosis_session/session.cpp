@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "application.h"
+#include "cli/terminal/progress.h"
 #include "complaints.h"
 #include "engine.h"
 #include "exchange.h"
@@ -20,7 +21,6 @@
 #include "json_output.h"
 #include "operation_log_file.h"
 #include "options.h"
-#include "progress.h"
 #include "recorded_session.h"
 #include "recording_file.h"
 #include "report.h"
@@ -184,7 +184,7 @@ int Run(const Options& options, const std::string& program, std::ostream& out, s
     const std::string itemsText = ReadWholeFile(itemsPath);
     OutputFiles files(options);
 
-    Progress progress(err);
+    terminal::Progress progress(err, "exchanges");
     TextStream text(out, "standard output");
     Complaints complaints(err);
     text.BeforeWriting([&] { progress.Hide(); });

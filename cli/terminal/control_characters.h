@@ -1,8 +1,8 @@
 // Texts come from files of strangers: what a terminal would obey instead of show is not passed on to it.
-#ifndef KRM_EXAMPLES_DIAGNOSIS_SESSION_CONTROL_CHARACTERS_H_
-#define KRM_EXAMPLES_DIAGNOSIS_SESSION_CONTROL_CHARACTERS_H_
+#ifndef KRM_CLI_TERMINAL_CONTROL_CHARACTERS_H_
+#define KRM_CLI_TERMINAL_CONTROL_CHARACTERS_H_
 
-namespace diagnosis_session {
+namespace terminal {
 
 /// Whether it is one of ASCII's; plain char may be signed or not.
 inline bool IsControl(char character) {
@@ -10,6 +10,6 @@ inline bool IsControl(char character) {
     return byte < ' ' || byte == 0x7F;
 }
 
-}  // namespace diagnosis_session
+}  // namespace terminal
 
-#endif  // KRM_EXAMPLES_DIAGNOSIS_SESSION_CONTROL_CHARACTERS_H_
+#endif  // KRM_CLI_TERMINAL_CONTROL_CHARACTERS_H_

@@ -1,18 +1,18 @@
-#include "progress.h"
+#include "cli/terminal/progress.h"
 
 #include <algorithm>
 #include <cstdio>
 
-namespace diagnosis_session {
+namespace terminal {
 
 std::string ProgressLine(const char* doing, std::uint64_t bytes, std::optional<std::uint64_t> total,
-                         std::uint64_t exchanges, double seconds) {
+                         std::uint64_t count, const char* counted, double seconds) {
     constexpr double kMegabyte = 1e6;
     char text[128];
     const double done = static_cast<double>(bytes);
     if (!total || *total == 0) {
-        std::snprintf(text, sizeof text, "%s %.1f MB  %llu exchanges", doing, done / kMegabyte,
-                      static_cast<unsigned long long>(exchanges));
+        std::snprintf(text, sizeof text, "%s %.1f MB  %llu %s", doing, done / kMegabyte,
+                      static_cast<unsigned long long>(count), counted);
         return text;
     }
     const double all = static_cast<double>(*total);
@@ -21,8 +21,8 @@ std::string ProgressLine(const char* doing, std::uint64_t bytes, std::optional<s
     std::snprintf(text, sizeof text, "%s [%-10s] %3d %%  %.1f of %.1f MB", doing, bar.c_str(),
                   static_cast<int>(part * 100), done / kMegabyte, all / kMegabyte);
     std::string line = text;
-    if (exchanges != 0) {
-        std::snprintf(text, sizeof text, "  %llu exchanges", static_cast<unsigned long long>(exchanges));
+    if (count != 0) {
+        std::snprintf(text, sizeof text, "  %llu %s", static_cast<unsigned long long>(count), counted);
         line += text;
     }
     if (part > 0) {
@@ -39,9 +39,9 @@ void Progress::Begin(const char* doing) {
     m_begin = std::chrono::steady_clock::now();
 }
 
-void Progress::Show(std::uint64_t bytes, std::optional<std::uint64_t> total, std::uint64_t exchanges) {
+void Progress::Show(std::uint64_t bytes, std::optional<std::uint64_t> total, std::uint64_t count) {
     const std::chrono::duration<double> since = std::chrono::steady_clock::now() - m_begin;
-    const std::string line = ProgressLine(m_doing, bytes, total, exchanges, since.count());
+    const std::string line = ProgressLine(m_doing, bytes, total, count, m_counted, since.count());
     Hide();
     m_out << line << std::flush;
     m_shown = line.size();
@@ -54,4 +54,4 @@ void Progress::Hide() {
     }
 }
 
-}  // namespace diagnosis_session
+}  // namespace terminal
