@@ -28,8 +28,23 @@ prepare() {
     esac
     export KRM_WINE WINEDEBUG=-all
     case $1 in
-        windows-*) export LC_ALL=C.UTF-8 ;; # else wine has no names for files with letters beyond ASCII
+        windows-*)
+            export LC_ALL=C.UTF-8 # else wine has no names for files with letters beyond ASCII
+            keep_wine_awake
+            ;;
     esac
+}
+
+# Wine's server ends with its last program. A program that starts while it ends is lost, and each start of the server takes
+# seconds. So one program waits for input that comes only when this shell has ended.
+keep_wine_awake() {
+    local ready
+    ready=$(mktemp -u)
+    mkfifo "$ready"
+    # shellcheck disable=SC2034
+    exec {wine_input}> >(exec "$KRM_WINE" cmd /c "echo ready&set /p line=" >"$ready")
+    read -r _ <"$ready" || { say "wine doesn't start: $KRM_WINE"; exit 1; }
+    rm "$ready"
 }
 
 # run_on PLATFORM PROGRAM [ARGUMENT...]: runs a prepared platform's program in its build folder.
