@@ -13,6 +13,12 @@ constant: 1 -> 2") matches; --list shows the draw and runs nothing. Kinds:
     constant        n becomes n + 1; so do shift counts, sign codes, cases, bounds
     default         the same for the value that a field starts with
     return          a returned error code becomes 0, a returned true false
+    type            a local variable, an inner field or the result of an inner function narrowed: krm_ulong to unsigned
+                    short, double to float
+    cast            a number's static_cast narrowed alike, or lost where an operator or an auto takes its type
+    condition       the condition of an if becomes true or false, of a loop false; a ?: one of its two values
+    ternary         the two values of a ?: exchanged
+    arguments       two arguments of one type exchanged, of a call or in braces
     error code      the code that an operation fails with becomes another
     statement       a statement of one line is left out: a call, an assignment, a reset
     conversion      %d %u %X %s %lf in the format of a log line replaced
@@ -21,8 +27,11 @@ constant: 1 -> 2") matches; --list shows the draw and runs nothing. Kinds:
     line lost       a log line left out
     field           the field of the next log line in the place of this one's
 
-Comments, preprocessor lines, Windows' own code and texts that are no format of a log line stay as they are; so do
-changes that change nothing by their kind (%d for %u where the field has less than 32 bits, or is an index).
+Comments, preprocessor lines, Windows' own code and texts that are no format of a log line stay as they are; so do changes
+that change nothing by their kind (%d for %u where the field has less than 32 bits, or is an index; a class that may be
+copied in one step copied field by field; an int or a std::size_t made a short, as they count bits, digits or elements;
+std::min's arguments exchanged). The types of the interface's fields stay, too: their layout has tests of its own
+(tests/interface/), which a changed header isn't compiled with.
 
 DIR is a tree that is built already (build/linux64; `./dev mutate` builds it). Neither the checkout nor the tree is ever
 changed: the changed file and all that is built from it lie in DIR/mutants, which goes at the end, interrupted or not. The
@@ -75,6 +84,7 @@ TESTS_OF_HEADERS = {
                                          "tests/platform/error_test.cpp", "tests/platform/imported_base_test.cpp",
                                          "tests/framework/message_test.cpp"],
     "krm/convert/internal/extended.h": ["tests/convert/extended_test.cpp", "tests/convert/base_conversions_test.cpp"],
+    "krm/convert/internal/quick_scaling.h": ["tests/convert/quick_scaling_test.cpp"],
     "krm/convert/internal/numbers.h": ["tests/convert/decimal_text_test.cpp", "tests/convert/base_conversions_test.cpp"],
 }
 
@@ -122,6 +132,26 @@ STATEMENT = re.compile(r"""^\ {4,}(?:
     | delete\ \w+
     );$""", re.VERBOSE)
 NARROW = re.compile(r"\bm_(uch|ush|ch|b|c)[A-Z]|Data\[%[du]\]$")
+
+
+# A narrower type for each that a variable is declared with or a value cast to. An int or a std::size_t counts bits, digits or
+# the elements of a table mostly, which have room in a short.
+NARROWER = {"krm_ulong": "unsigned short", "krm_long": "short", "krm_int64": "krm_long", "unsigned short": "unsigned char",
+            "std::uintmax_t": "std::uint32_t", "std::intmax_t": "std::int32_t",
+            "std::uint64_t": "std::uint32_t", "std::int64_t": "std::int32_t", "std::uint32_t": "std::uint16_t",
+            "std::int32_t": "std::int16_t", "double": "float"}
+DECLARATION = re.compile(rf"(?P<type>{'|'.join(NARROWER)}) (?P<name>\w+)(?P<then> = |;|\()")
+CAST = re.compile(r"static_cast<(?P<type>[\w: ]+)>\(")
+CAST_BEHIND = {"<", "<=", ">", ">=", "-", "*", "/", "%"}  # operators whose result depends on the type that is cast to
+CAST_BEFORE = CAST_BEHIND | {"<<", ">>"}
+NUMBERS = set(NARROWER) | {"int", "unsigned", "char", "signed char", "unsigned char"}
+# What has a field's, parameter's or variable's type in front of its name.
+TYPED_NAME = re.compile(r"\b(?P<type>(?:unsigned )?[A-Za-z_][\w:]*(?:<[\w:]+>)?(?: const)?[ *&]+)(?P<name>\w+)"
+                        r"(?= = |[;,){])")
+NO_TYPES = {"auto", "return", "case", "new", "delete", "class", "typename", "struct", "else", "namespace", "throw", "goto"}
+ARGUMENT = re.compile(r"[A-Za-z_]\w*(?:(?:\.|->)[A-Za-z_]\w*)*")
+SYMMETRIC = {"min", "max", "swap", "Same"}
+NO_CALLS = {"if", "while", "for", "switch", "return", "sizeof", "catch", "operator"}
 
 
 def windows_lines(text):
@@ -186,7 +216,165 @@ def changes_of_format(literal, is_log_line):
         yield "name", changed_letter(literal, letters[len(literal) * 7 % len(letters)])
 
 
-def mutants_of(path, error_codes):
+def closing(code, i):
+    """The place of the token that closes the bracket which is code[i]; of the last where an #if opens two for one."""
+    depth = 0
+    for j in range(i, len(code)):
+        if code[j].group() in ("(", "[", "{"):
+            depth += 1
+        elif code[j].group() in (")", "]", "}"):
+            depth -= 1
+            if depth == 0:
+                return j
+    return len(code) - 1
+
+
+def parts(code, first, last, separator):
+    """The tokens code[first:last], split at each `separator` that stands in no bracket: pairs of first and last place."""
+    found, begin, i = [], first, first
+    while i < last:
+        word = code[i].group()
+        if word in ("(", "[", "{"):
+            i = closing(code, i)
+        elif word == separator:
+            found.append((begin, i))
+            begin = i + 1
+        i += 1
+    return found + [(begin, last)]
+
+
+def types_narrowed(path, text, code):
+    """Tuples of kind, start, end, replacement; so from each of the functions behind this one."""
+    inner = [match.span() for match in re.finditer(r"^namespace \{$.*?^\}  // namespace$", text, re.MULTILINE | re.DOTALL)]
+    for i, token in enumerate(code):
+        match = DECLARATION.match(text, token.start())
+        if not match or token.lastgroup != "word":
+            continue
+        j = i - 1
+        while code[j].group() in ("const", "static", "inline"):
+            j -= 1
+        ahead = code[j].group()
+        if ahead == "(" and code[j - 1].group() not in ("if", "for", "while", "switch"):
+            continue  # a parameter
+        if ahead not in ("{", "}", ";", ":", ">", "(", ")") and code[j].lastgroup != "directive":
+            continue
+        if match["then"] == "(":
+            opening = next(k for k in range(i, len(code)) if code[k].group() == "(")
+            behind = closing(code, opening) + 1
+            while code[behind].group() in ("const", "noexcept"):
+                behind += 1
+            if code[behind].group() != "{" or not path.endswith(".h") and not any(a < token.start() < b for a, b in inner):
+                continue  # no definition, or one that a header declares
+        elif re.match(r"m_(ul|l|ush|dw|d)[A-Z]", match["name"]) and path.endswith(".h"):
+            continue  # a field of the interface
+        yield "type", match.start("type"), match.end("type"), NARROWER[match["type"]]
+
+
+def casts_changed(path, text, code):
+    for i, token in enumerate(code):
+        match = CAST.match(text, token.start())
+        if not match or match["type"] not in NUMBERS:
+            continue
+        if match["type"] in NARROWER:
+            yield "cast", match.start("type"), match.end("type"), NARROWER[match["type"]]
+        opening = next(k for k in range(i, len(code)) if code[k].start() == match.end() - 1)
+        behind = code[closing(code, opening) + 1].group()
+        # Most operators convert by themselves to what the cast names.
+        if match["type"] == "double":
+            matters = "/" in (behind, code[i - 1].group())
+        else:
+            matters = behind in CAST_BEFORE or code[i - 1].group() in CAST_BEHIND or re.search(r"\bauto \w+ = $",
+                                                                                            text[:token.start()])
+        if matters:
+            yield "cast", token.start(), code[opening].start(), ""
+
+
+def conditions_replaced(path, text, code):
+    for i, token in enumerate(code[:-1]):
+        word = token.group()
+        if word not in ("if", "while", "for") or code[i + 1].group() != "(":
+            continue
+        statements = parts(code, i + 2, closing(code, i + 1), ";")
+        if word == "for" and len(statements) != 3:
+            continue
+        first, last = statements[1] if word == "for" else statements[-1]
+        if first == last:
+            continue
+        start, end = code[first].start(), code[last - 1].end()
+        # What the condition declares is used behind it.
+        declared = text[start:end] + "; " if any(code[k].group() == "=" for k in range(first, last)) else ""
+        for value in ("true", "false") if word == "if" else ("false",):
+            yield "condition", start, end, declared + value
+
+
+def ternaries_changed(path, text, code):
+    for i, token in enumerate(code):
+        if token.group() != "?":
+            continue
+        nested, colon = 1, i
+        while nested:
+            colon += 1
+            word = code[colon].group()
+            if word in ("(", "[", "{"):
+                colon = closing(code, colon)
+            nested += {"?": 1, ":": -1}.get(word, 0)
+        last = colon + 1
+        while code[last].group() not in (";", ",", ")", "]", "}"):
+            last = closing(code, last) + 1 if code[last].group() in ("(", "[", "{") else last + 1
+        start, end = code[i + 1].start(), code[last - 1].end()
+        one, other = text[start:code[colon - 1].end()], text[code[colon + 1].start():end]
+        yield "ternary", start, end, f"({other}) : ({one})"
+        yield "condition", start, end, f"{one} : ({one})"
+        yield "condition", start, end, f"({other}) : {other}"
+
+
+def arguments_exchanged(path, text, code, fields):
+    declared = [(match.start("name"), match["name"], plain_type(match)) for match in TYPED_NAME.finditer(text)]
+
+    def type_of(argument, place):
+        name = re.split(r"\.|->", argument)[-1]
+        if name == argument:
+            near = [what for start, known, what in declared if known == name and start < place]
+            if near:
+                return near[-1]
+        return next(iter(fields[name])) if len(fields.get(name, ())) == 1 else None
+
+    for i, token in enumerate(code):
+        call = code[i - 1].lastgroup == "word" and code[i - 1].group() not in NO_CALLS | SYMMETRIC
+        if token.group() != "{" and (token.group() != "(" or not call):
+            continue
+        known = []
+        for first, last in parts(code, i + 1, closing(code, i), ","):
+            argument = text[code[first].start():code[last - 1].end()] if first < last else ""
+            if ARGUMENT.fullmatch(argument) and argument not in NUMBERS and (what := type_of(argument, token.start())):
+                known.append((code[first].start(), argument, what))
+        for k, (start, argument, what) in enumerate(known):
+            behind = next((other for other in known[k + 1:] if other[2] == what), None)
+            if behind and behind[1] != argument:
+                between = text[start + len(argument):behind[0]]
+                yield "arguments", start, behind[0] + len(behind[1]), behind[1] + between + argument
+
+
+def plain_type(match):
+    what = re.sub(r"\bconst\b|&", "", match["type"]).replace(" *", "*").strip()
+    return None if what in NO_TYPES else what
+
+
+def types_of_fields():
+    """Name -> all types that anything of that name has in the library."""
+    fields = {}
+    for path in library_files():
+        for match in TYPED_NAME.finditer((ROOT / path).read_text()):
+            fields.setdefault(match["name"], set()).add(plain_type(match))
+    return fields
+
+
+def library_files():
+    return sorted(str(path.relative_to(ROOT)) for root in INCLUDE_ROOTS for path in (ROOT / root).rglob("*")
+                  if path.suffix in (".h", ".cpp"))
+
+
+def mutants_of(path, error_codes, fields):
     text = (ROOT / path).read_text()
     windows = windows_lines(text)
     starts = [0] + [match.end() for match in re.finditer("\n", text)]
@@ -204,6 +392,7 @@ def mutants_of(path, error_codes):
                                 start, end, text[:start] + replacement + text[end:]))
 
     tokens = [match for match in TOKEN.finditer(text) if match.lastgroup != "comment"]
+    asserted = [(token.start(), text.index(";", token.start())) for token in tokens if token.group() == "static_assert"]
     skip_until = -1
     for i, token in enumerate(tokens):
         kind, word, start, end = token.lastgroup, token.group(), token.start(), token.end()
@@ -221,7 +410,7 @@ def mutants_of(path, error_codes):
         elif kind == "number":
             field = re.match(r"^    [\w:]+ m_\w+ = ", line)
             add("default" if field else "constant", start, end, next_number(word))
-        elif word in ("true", "false") and before != "bool":
+        elif word in ("true", "false") and before != "bool" and "::kCopiedInOneStep<" not in line:
             field = re.match(r"^    [\w:]+ m_\w+ = ", line)
             kind = "default" if field else "return" if before == "return" else "logic"
             add(kind, start, end, "false" if word == "true" else "true")
@@ -243,6 +432,14 @@ def mutants_of(path, error_codes):
                 for what, table in (("comparison", COMPARISONS), ("arithmetic", ARITHMETIC), ("logic", LOGIC)):
                     if word in table:
                         add(what, start, end, table[word])
+
+    code = [token for token in tokens if token.lastgroup != "directive"
+            and not any(a <= token.start() < b for a, b in asserted)]
+    for changes in (types_narrowed, casts_changed, conditions_replaced, ternaries_changed):
+        for change in changes(path, text, code):
+            add(*change)
+    for change in arguments_exchanged(path, text, code, fields):
+        add(*change)
 
     for number, line in enumerate(lines, 1):
         start = starts[number - 1]
@@ -266,7 +463,7 @@ def read_equivalent():
     entries = []
     for line in EQUIVALENT.read_text().splitlines() if EQUIVALENT.exists() else []:
         if line.strip() and not line.startswith("#"):
-            path, kind, change, code, reason = (part.strip() for part in line.split(" ;; "))
+            path, kind, change, code, reason = line.rstrip().split(" ;; ")
             entries.append((path, kind, change, code, reason))
     return entries
 
@@ -275,19 +472,20 @@ def all_mutants():
     entries = read_equivalent()
     used = Counter()
     error_codes = re.findall(r"\b(k[A-Z]\w*) = \d{10};", (ROOT / "krm/core/error_codes.h").read_text())
+    fields = types_of_fields()
     mutants = []
-    for path in sorted(str(p.relative_to(ROOT)) for root in INCLUDE_ROOTS for p in (ROOT / root).rglob("*")
-                       if p.suffix in (".h", ".cpp")):
+    for path in library_files():
         text = (ROOT / path).read_text()
         lines = text.split("\n")
-        for mutant in mutants_of(path, error_codes):
+        for mutant in mutants_of(path, error_codes, fields):
             for entry in entries:
                 line = lines[mutant.line - 1]
-                if "@" in entry[3]:
+                part, _, behind = entry[3].partition(" ... ")
+                if "@" in part:
                     column = mutant.start - text.rfind("\n", 0, mutant.start) - 1
                     line = line[:column] + "@" + line[column + mutant.end - mutant.start:]
                 if (entry[0], entry[1], entry[2]) == (path, mutant.kind, f"{mutant.before} -> {mutant.after}") \
-                        and entry[3] in line:
+                        and part in line and behind in lines[mutant.line]:
                     used[entry] += 1
                     break
             else:
@@ -340,7 +538,7 @@ class Tree:
         self.sources = {command[command.index("-o") + 1]: source for source, command in self.objects.items()}
         self.program = build / "bin" / "krm_tests"
         self.libraries = {name: next((build / "krm").glob(f"lib{name}.so.*.*.*"))
-                          for name in ("krmc_adaptation_data", "krmc_platform")}
+                          for name in ("krmc_adaptation_data", "krmc_exchange", "krmc_platform")}
         self.links = {name: self._link_command(path.relative_to(build)) for name, path in self.libraries.items()}
         self.test_link = self._link_command("bin/krm_tests")
         self.includers = self._includers()
@@ -404,8 +602,8 @@ class Tree:
         self._link(words)
 
     def link_tests(self, objects):
-        """Links a program of just the tests in `objects`."""
-        words = [word for word in self.test_link if not word.endswith("_test.cpp.o")]
+        """Links a program of just the tests in `objects`, and of what supports them."""
+        words = [word for word in self.test_link if "/support/" in word or not word.endswith("_test.cpp.o")]
         words[words.index("-o") + 1] = str(self.mutants / "some_tests")
         words[words.index("-o"):words.index("-o")] = [str(made) for made in objects]
         self._link(words)

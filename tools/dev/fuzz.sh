@@ -14,7 +14,7 @@ for name in fuzz/corpus/*/; do
     name=$(basename "$name")
     say "fuzzing $name for $seconds s"
     mkdir -p build/fuzz/corpus/"$name" build/fuzz/found
-    arguments=(-max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -artifact_prefix=build/fuzz/found/"$name"-)
+    arguments=(-max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -artifact_prefix="$PWD"/build/fuzz/found/"$name"-)
     if [ -e fuzz/"$name".dict ]; then arguments+=(-dict=fuzz/"$name".dict); fi
     if build/fuzz/bin/fuzz_"$name" "${arguments[@]}" build/fuzz/corpus/"$name" fuzz/corpus/"$name" \
         >build/fuzz/"$name".log 2>&1; then
