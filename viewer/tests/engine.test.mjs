@@ -5,6 +5,7 @@ import { gzipSync } from "node:zlib";
 import catalogue from "../catalogue.json" with { type: "json" };
 import { fieldsByLogPath, isLogged } from "../src/engine/catalogue.js";
 import { Engine } from "../src/engine/engine.js";
+import { LogLine } from "../src/engine/log_line.js";
 import { answer, askForCodes, code, codesEnd, lines, recorded, recording, request, session } from "./fixtures.mjs";
 
 async function opened(...contents) {
@@ -100,6 +101,34 @@ test("lines of two threads are told apart by what stands in front", async () => 
     assert.deepEqual(names(engine), ["GetDTC request 2024", "GetDTC request 2025"]);
     assert.equal(fieldsOf(engine, 1).length, 5);
     assert.equal((await engine.filter("thread:2")).counts[0], 1);
+});
+
+test("a line of another message begins one, also where the thread's own has no line but its ID", async () => {
+    const [type, id] = answer(43);
+    const { engine } = await opened(lines("", type, id, "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] m_bDTCType=1", type, id));
+    assert.deepEqual(names(engine), ["ReadVBatt null null", "GetDTC answer null", "ReadVBatt null null"]);
+    assert.ok(engine.files[0].entries[1].isCut);
+});
+
+test("a line has the class that comes first and is followed by a path", async () => {
+    const ask = "[CKRMCGetDTCCmdAdaptDataSnd::ErrWriteOperationLog]", other = "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog]";
+    const line = new LogLine();
+    const partsOf = (text) => {
+        const bytes = new TextEncoder().encode(`${text}\n`);
+        const textOf = (from, to) => new TextDecoder().decode(bytes.subarray(from, to));
+        return line.find(bytes, 0, bytes.length - 1)
+            ? [textOf(0, line.head), textOf(line.classStart, line.classEnd), line.path(bytes), textOf(line.equal + 1, bytes.length - 1)] : null;
+    };
+    // Behind one with a prefix of just that length, where the other class stands.
+    assert.deepEqual(partsOf(`${" ".repeat(ask.length + 5)}${other} p=1`), [" ".repeat(ask.length + 5), "CKRMCGetDTCCmdAdaptDataRcv", "p", "1"]);
+    assert.deepEqual(partsOf(`${ask} q=x ${other} p=2`), ["", "CKRMCGetDTCCmdAdaptDataSnd", "q", `x ${other} p=2`]);
+    assert.deepEqual(partsOf(`${ask} q x ${other} p=2`), [`${ask} q x `, "CKRMCGetDTCCmdAdaptDataRcv", "p", "2"]);
+    assert.deepEqual(partsOf(`7 [${other} Data[2]] m_uchSSRNo[1]=7`), ["7 ", "CKRMCGetDTCCmdAdaptDataRcv", "Data[2].m_uchSSRNo[1]", "7"]);
+    assert.deepEqual(partsOf("[[CKRMCX::Y] Data[2]]xm_a=1"), ["[", "CKRMCX", "Data[2]]xm_a", "1"]);
+    assert.deepEqual(partsOf("[CKRMCX::Y].m_ulValue=1(1)"), ["", "CKRMCX", ".m_ulValue", "1(1)"]);
+    for (const none of [`${ask} words, then a=1`, `${ask} =1`, `${ask} m_ulEcuId`, "[CKRMCX] m_ulEcuId=1", "[CKRMCX::] m_ulEcuId=1", "[CKRMC X::Y] m_ulEcuId=1", "[OtherClass::Y] m_ulEcuId=1"]) {
+        assert.equal(partsOf(none), null, none);
+    }
 });
 
 test("a running number in front of the lines is no thread", async () => {

@@ -17,6 +17,7 @@ function roleOf(name) {
         command,
         family,
         type: typeOfFamily(family),
+        id: findMessage(name)?.command.id ?? null,
         direction: ending === "Snd" ? "request" : ending === "Rcv" ? "answer" : null,
     };
 }
@@ -148,7 +149,7 @@ export class LogFile {
                     // A source that began no message says nothing: a running number may stand in front of the lines.
                     open = openBySource.get(source) ?? open;
                     const isOther = open && ((role.family ?? open.family) !== (open.family ?? role.family) ||
-                        (!role.isBase && open.cls && open.cls !== role.name) ||
+                        (!role.isBase && (open.cls ? open.cls !== role.name : open.id !== null && (role.id ?? open.id) !== open.id)) ||
                         (role.direction && open.direction && role.direction !== open.direction));
                     if (!open || isOther) {
                         begin(number, true);

@@ -6,6 +6,8 @@ const kOpen = 0x5b; // [
 const kClose = 0x5d; // ]
 const kEqual = 0x3d; // =
 const kColon = 0x3a; // :
+const kBlank = 0x20;
+const kPoint = 0x2e;
 const kHead = [0x5b, 0x43, 0x4b, 0x52, 0x4d, 0x43]; // [CKRMC
 /** A prefix longer than this is no prefix of a log. */
 const kLongestPrefix = 512;
@@ -17,6 +19,15 @@ function isHeadAt(bytes, at) {
         }
     }
     return true;
+}
+
+/** Where a name ends that begins at a place. */
+function endOfName(bytes, at) {
+    let byte = bytes[at];
+    while ((byte >= 0x30 && byte <= 0x39) || (byte >= 0x41 && byte <= 0x5a) || (byte >= 0x61 && byte <= 0x7a) || byte === 0x5f) {
+        byte = bytes[++at];
+    }
+    return at;
 }
 
 /** Where the parts of one line are. It is used again for the next line: copy what is to be kept. */
@@ -31,39 +42,24 @@ export class LogLine {
 
     /** Finds the parts of the line between two places; false where it is no line of the log. */
     find(bytes, start, end) {
+        // A text that the sink wrote in front may look like the begin of a class, and the class itself come behind it.
+        for (let at = start, last = Math.min(end - 8, start + kLongestPrefix); at < last; ++at) {
+            if (isHeadAt(bytes, at) && this.#findBehind(bytes, start, end, at)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /** Finds the parts of the line whose class begins in the bracket at a place. */
+    #findBehind(bytes, start, end, at) {
         this.prefixStart = start;
-        // Mostly the prefix is as long as that of the line before.
-        let at = start + (this.lastPrefix ?? 0);
-        if (!(at + 8 < end && isHeadAt(bytes, at))) {
-            const last = Math.min(end - 8, start + kLongestPrefix);
-            at = start;
-            while (at < last && !isHeadAt(bytes, at)) {
-                ++at;
-            }
-            if (at >= last) {
-                return false;
-            }
-        }
-        this.lastPrefix = at - start;
         this.classStart = at + 1;
-        this.head = at;
-        while (this.head > start && bytes[this.head - 1] === kOpen) {
-            --this.head;
-        }
-        this.brackets = at - this.head + 1;
-        let colon = this.classStart;
-        while (colon < end && bytes[colon] !== kColon && bytes[colon] !== kClose && bytes[colon] !== kEqual) {
-            ++colon;
-        }
-        if (bytes[colon] !== kColon || bytes[colon + 1] !== kColon) {
-            return false;
-        }
-        this.classEnd = colon;
-        let close = colon + 2;
-        while (close < end && bytes[close] !== kClose && bytes[close] !== kEqual) {
-            ++close;
-        }
-        if (close >= end || bytes[close] !== kClose) {
+        this.classEnd = endOfName(bytes, this.classStart);
+        const operation = this.classEnd + 2;
+        const close = endOfName(bytes, operation);
+        if (bytes[this.classEnd] !== kColon || bytes[this.classEnd + 1] !== kColon || close === operation ||
+            bytes[close] !== kClose || (bytes[close + 1] !== kBlank && bytes[close + 1] !== kPoint)) {
             return false;
         }
         this.pathStart = close + 1;
@@ -72,7 +68,24 @@ export class LogLine {
             ++equal;
         }
         this.equal = equal;
-        return equal < end && equal > this.pathStart;
+        if (equal >= end || equal === this.pathStart + 1) {
+            return false;
+        }
+        // A record's prefix in brackets ends within the path, before a blank or a point; no other blank is in a path.
+        this.head = at;
+        for (let i = this.pathStart + 1, depth = 0; i < equal; ++i) {
+            depth += bytes[i] === kOpen ? 1 : bytes[i] === kClose ? -1 : 0;
+            if (bytes[i] === kClose && depth < 0 && this.head > start && bytes[this.head - 1] === kOpen && i + 2 < equal &&
+                (bytes[i + 1] === kBlank || bytes[i + 1] === kPoint)) {
+                depth = 0;
+                this.head -= 1;
+                i += 1;
+            } else if (bytes[i] === kBlank) {
+                return false;
+            }
+        }
+        this.brackets = at - this.head + 1;
+        return true;
     }
 
     /**
