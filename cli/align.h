@@ -18,7 +18,8 @@ struct Pair {
 };
 
 /// Pairs equal elements without changing their order, and as many as there are: those of the longest common subsequence.
-/// Where more than `mostDifferences` follow without end, it is as good as it gets with these, and goes on from there.
+/// Where more than `mostDifferences`, at least 1, follow without end, it is as good as it gets with these, and goes on from
+/// there.
 std::vector<Pair> Align(const std::vector<std::uint64_t>& first, const std::vector<std::uint64_t>& second,
                         std::size_t mostDifferences = 1000);
 

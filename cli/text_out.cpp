@@ -8,7 +8,7 @@
 namespace krm_cli {
 
 TextOut& TextOut::Coloured(std::string_view colour, std::string_view text) {
-    if (!m_surroundings.hasColours) {
+    if (!m_surroundings.hasColours || colour.empty()) {
         return *this << text;
     }
     return *this << colour << text << "\x1b[0m";

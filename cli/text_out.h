@@ -24,7 +24,7 @@ class TextOut : public terminal::GatheredText<TextOut> {
 public:
     explicit TextOut(const Surroundings& surroundings) : m_surroundings(surroundings) {}
 
-    /// The text in this colour, where colours are wanted.
+    /// The text in this colour, where colours are wanted; an empty one is none.
     TextOut& Coloured(std::string_view colour, std::string_view text);
     /// The text as a string of JSON; as `{"$bytes":"8347"}` where it isn't UTF-8.
     TextOut& Json(std::string_view text);

@@ -5,11 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "cli/field_store.h"
-
 namespace {
 
-using krm_cli::FieldStore;
 using krm_cli::FieldText;
 using krm_cli::Outline;
 
@@ -90,29 +87,6 @@ TEST(Outline, KeepsLittleOfManyFields) {
 
 TEST(Outline, TakesIndicesOfAnyForm) {
     EXPECT_EQ(EntriesOf(Of({{"Data[x].a", "1"}, {"Data[", "1"}, {"m_cMap[\"a.b\"]", "1"}})), "Data[2] m_cMap[1]");
-}
-
-TEST(FieldStore, GivesBackWhatItTook) {
-    for (const std::size_t inMemory : {std::size_t{1} << 20, std::size_t{1}, std::size_t{150}}) {
-        FieldStore store(inMemory);
-        for (int round = 0; round < 2; ++round) {
-            store.Clear();
-            for (std::size_t i = 0; i < 10; ++i) {
-                store.Add({"Data[" + std::to_string(i) + ']', std::string(i, 'x'), i, i * 2});
-            }
-            for (int reading = 0; reading < 2; ++reading) {
-                std::size_t i = 0;
-                store.ForEach([&](const FieldText& field) {
-                    EXPECT_EQ(field.path, "Data[" + std::to_string(i) + ']');
-                    EXPECT_EQ(field.value, std::string(i, 'x'));
-                    EXPECT_EQ(field.line, i);
-                    EXPECT_EQ(field.cutBytes, i * 2);
-                    ++i;
-                });
-                EXPECT_EQ(i, 10U);
-            }
-        }
-    }
 }
 
 TEST(Outline, BeginsAnewWithEachMessage) {

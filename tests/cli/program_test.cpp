@@ -1,32 +1,17 @@
-#include "cli/program.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
-#include <vector>
 
+#include "tests/cli/calls.h"
 #include "tests/exchange/recording_text.h"
 #include "tests/support/folder.h"
 
 namespace {
 
+using krm::test::Call;
+using krm::test::Krm;
 using ::testing::StartsWith;
-
-/// What a call of the program has said.
-struct Call {
-    int status;
-    std::string out;
-    std::string err;
-};
-Call Krm(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), "krm");
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = krm_cli::RunKrm(arguments, {out, err});
-    return {status, out.str(), err.str()};
-}
 
 // A name may come from a stranger, as what is shown does.
 TEST(Program, TellsNamesOfFilesHarmlessly) {

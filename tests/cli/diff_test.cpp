@@ -1,0 +1,158 @@
+// krm diff: what it tells of two files.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/cli/calls.h"
+#include "tests/exchange/recording_text.h"
+#include "tests/support/folder.h"
+
+namespace {
+
+using krm::test::Call;
+using krm::test::Krm;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+const std::string kBase = "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] ";
+const std::string kAnswer = "[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] ";
+const std::string kOwn = "[CKRMCOwnCmdAdaptDataRcv::ErrWriteOperationLog] ";
+
+std::string Message(int id, const std::string& lines) {
+    return kBase + "m_dwCommandType=1\n" + kBase + "m_dwCommandID=" + std::to_string(id) + '\n' + lines;
+}
+std::string Request(int id, int ecu) {
+    return Message(id, "[CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=" + std::to_string(ecu) + '\n');
+}
+/// An answer to GetDTC with these codes.
+std::string Codes(const std::vector<std::string>& codes) {
+    std::string lines;
+    for (std::size_t i = 0; i < codes.size(); ++i) {
+        lines += kAnswer + "Data[" + std::to_string(i) + "].m_strDTC=" + codes[i] + '\n';
+    }
+    return Message(
+        2, "[CKRMCBaseCmdAdaptDataRcv::ErrWriteOperationLog] m_bNotSupport=0\n" + lines + kAnswer + "m_bDTCType=0\n");
+}
+
+Call Compared(const std::string& first, const std::string& second, std::vector<std::string> options = {},
+              bool hasColours = false) {
+    const krm::test::TestFolder folder;
+    const std::string files[] = {folder.Write("a.log", first), folder.Write("b.log", second)};
+    options.insert(options.begin(), {"diff", files[0], files[1]});
+    return Krm(options, hasColours);
+}
+
+TEST(Diff, IsSilentWhereNothingDiffers) {
+    const Call call = Compared(Codes({"P0301"}), Codes({"P0301"}));
+    EXPECT_EQ(call.status, 0);
+    EXPECT_EQ(call.out, "");
+    EXPECT_EQ(Compared(Codes({"P0301"}), Codes({"P0301"}), {"--json"}).out,
+              R"({"totals":{"equal":1,"different":0,"onlyIn1":0,"onlyIn2":0}})"
+              "\n");
+}
+
+TEST(Diff, TellsWhatDiffers) {
+    const Call call = Compared(Request(5, 7) + Codes({"P0301", "P0171"}) + Codes({"P0420"}),
+                               Codes({"P0301", "P0172", "C0123"}) + Codes({"P0420"}) + Request(79, 8));
+    EXPECT_EQ(call.status, 1);
+    EXPECT_THAT(call.out, StartsWith("only in the first: message 1: ClearDTC request, ECU 7\n"
+                                     "message 2, now 1: GetDTC answer\n"
+                                     "  changed Data[1].m_strDTC: \"P0171\" -> \"P0172\"\n"
+                                     "  added Data[2]: {m_uchDTCKind=0, m_ulDTCCode=0, m_strDTC=\"C0123\", "));
+    EXPECT_THAT(call.out, EndsWith("}\n"
+                                   "only in the second: message 3: GetVinCode request, ECU 8\n"
+                                   "1 messages are equal, 1 differ; only in the first are 1, only in the second 1\n"));
+}
+
+TEST(Diff, WritesDocuments) {
+    const Call call = Compared(Request(5, 7) + Codes({"P0301", "P0171"}), Codes({"P0172", "P0301"}) + Request(79, 8),
+                               {"--json", "--key", "Data=m_strDTC"});
+    EXPECT_EQ(call.status, 1);
+    EXPECT_THAT(call.out, HasSubstr(R"({"difference":"message","onlyIn":1,"message":1,"command":"ClearDTC"})"
+                                    "\n"));
+    EXPECT_THAT(call.out,
+                HasSubstr(R"({"difference":"removed","message1":2,"message2":1,"command":"GetDTC","path":"Data[1]",)"));
+    EXPECT_THAT(call.out,
+                HasSubstr(R"({"difference":"added","message1":2,"message2":1,"command":"GetDTC","path":"Data[0]",)"));
+    EXPECT_THAT(call.out, EndsWith(R"({"difference":"message","onlyIn":2,"message":2,"command":"GetVinCode"})"
+                                   "\n"
+                                   R"({"totals":{"equal":0,"different":1,"onlyIn1":1,"onlyIn2":1}})"
+                                   "\n"));
+}
+
+TEST(Diff, IsColouredOnATerminal) {
+    const Call call = Compared(Request(5, 7) + Codes({"P0301", "P0171"}) + Codes({"P0420", "P0421"}),
+                               Codes({"P0302", "P0171", "C0123"}) + Codes({"P0420"}) + Request(79, 8), {}, true);
+    EXPECT_THAT(call.out, HasSubstr("\x1B[31monly in the first: message 1: ClearDTC request, ECU 7\x1B[0m\n"
+                                    "\x1B[1mmessage 2, now 1: GetDTC answer\x1B[0m\n"
+                                    "  \x1B[33mchanged Data[0].m_strDTC: \"P0301\" -> \"P0302\"\x1B[0m\n"
+                                    "  \x1B[32madded Data[2]"));
+    EXPECT_THAT(call.out, HasSubstr("\n  \x1B[31mremoved Data[1]"));
+    EXPECT_THAT(call.out, HasSubstr("\x1B[32monly in the second: message 3: GetVinCode request, ECU 8\x1B[0m\n"));
+    EXPECT_THAT(
+        call.out,
+        EndsWith("\x1B[2m0 messages are equal, 2 differ; only in the first are 1, only in the second 1\x1B[0m\n"));
+}
+
+// Lines that have no place in a message: those of a class that the library doesn't have.
+TEST(Diff, ComparesLinesThatHaveNoPlaceAsTheyAre) {
+    const auto own = [](const std::vector<std::string>& fields) {
+        std::string lines;
+        for (const std::string& field : fields) {
+            lines += kOwn + field + '\n';
+        }
+        return Message(900, lines);
+    };
+    const Call call = Compared(own({"m_a=1", "m_b=2", "m_d=4"}), own({"m_a=1", "m_b=3", "m_c=5", "m_d=4", "m_e=6"}));
+    EXPECT_EQ(call.status, 1);
+    EXPECT_THAT(call.out, HasSubstr("  changed m_b: 2 -> 3\n  added m_c: 5\n  added m_e: 6\n"));
+    EXPECT_THAT(Compared(own({"m_a=1", "m_b=2"}), own({"m_b=2"})).out, HasSubstr("  removed m_a: 1\n"));
+    const std::string first = own({"m_ulA=1", "m_b=2"});
+    const std::string second = own({"m_b=2", "m_ulB=1"});
+    EXPECT_EQ(Compared(first, second).status, 1);
+    EXPECT_EQ(Compared(first, second, {"--ignore", "m_ul*"}).status, 0);
+    EXPECT_EQ(Compared(own({"m_ulA=1", "m_b=2"}), own({"m_ulA=2", "m_b=2"}), {"--ignore", "m_ul*"}).status, 0);
+    EXPECT_EQ(Compared(first, own({"m_b=3", "m_ulB=1"}), {"--ignore", "m_ul*"}).status, 1);
+}
+
+TEST(Diff, HasATolerance) {
+    const auto test = [](const std::string& value) {
+        return Message(32,
+                       "[CKRMCStartActiveTestCmdAdaptDataSnd::ErrWriteOperationLog] Data[0].m_dData=" + value + '\n');
+    };
+    EXPECT_EQ(Compared(test("1.5"), test("1.625")).status, 1);
+    EXPECT_EQ(Compared(test("1.5"), test("1.625"), {"--tolerance", "0.125"}).status, 0);
+    EXPECT_EQ(Compared(test("1.5"), test("1.625"), {"--tolerance", "0.1"}).status, 1);
+}
+
+TEST(Diff, RefusesWhatNoMessageHas) {
+    const Call key = Compared(Codes({}), Codes({}), {"--key", "Data"});
+    EXPECT_EQ(key.status, 2);
+    EXPECT_EQ(key.err, "krm: --key needs PATH=FIELD: Data\n");
+    const Call field = Compared(Codes({}), Codes({}), {"--key", "Data=m_strDTC,m_strDCT"});
+    EXPECT_EQ(field.status, 2);
+    EXPECT_THAT(field.err, HasSubstr("krm: --key Data=m_strDTC,m_strDCT: no message has this: "));
+    EXPECT_EQ(Compared(Codes({"P0301"}), Codes({"P0301"}), {"--key", "Data=m_strDTC,m_ulDTCCode"}).status, 0);
+    const Call neither = Compared("a\n", "b\n");
+    EXPECT_EQ(neither.status, 2);
+    EXPECT_THAT(neither.err, EndsWith("a.log:1: neither an operation log nor a recording\n"));
+}
+
+TEST(Diff, TellsLinesOfRecordingsThatItCantRead) {
+    const std::string line =
+        R"({"exchange":1,"time":"2026-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":)"
+        R"("GetVinCode","family":"Cmd","direction":"request","content":{"m_ulEcuId":7}}})"
+        "\n";
+    const std::string whole = std::string(krm::test::kHeader) + line;
+    const Call call = Compared(whole, whole + "no line\n" + line);
+    EXPECT_EQ(call.status, 2);
+    EXPECT_THAT(call.err, HasSubstr("b.log:3: "));
+    EXPECT_EQ(call.out,
+              "only in the second: message 2: GetVinCode request, ECU 7\n"
+              "1 messages are equal, 0 differ; only in the first are 0, only in the second 1\n");
+}
+
+}  // namespace
