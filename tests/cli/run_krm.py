@@ -6,8 +6,11 @@ SESSION_PROGRAM is diagnosis_session, which writes the log and the recording, DA
 behind the emulator that runs it, if any, and the emulator's options.
 """
 
+import base64
+import gzip
 import json
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -184,8 +187,12 @@ with tempfile.TemporaryDirectory() as folder:
     if b"was built without the page" in viewed.stderr:
         print("not tested: krm view; the page is not built in")
     else:
-        check("view", viewed.returncode == 0 and b'id="krm-data">{"files":[{"name":"demo.log",' in content("report.html"),
-              viewed)
+        check("view", viewed.returncode == 0 and viewed.stdout == f"written to {page}; open it in a browser\n".encode(), viewed)
+        put = json.loads(re.search(rb'id="krm-data">(.*?)</script>', content("report.html"), re.DOTALL)[1])["files"]
+        check("the page has both files' names", [each["name"] for each in put] == ["demo.log", "demo.krmrec"], put)
+        bytes_of = [base64.b64decode(each["base64"], validate=True) for each in put]
+        check("and all their bytes", [gzip.decompress(data) if each["gzip"] else data for each, data in
+                                      zip(put, bytes_of)] == [text, content("demo.krmrec")])
         check("a page is written again", run("view", log, "-o", page).returncode == 0)
         check("nothing else is", run("view", log, "-o", recording).returncode == 2)
 
