@@ -380,7 +380,7 @@ Event LogInput::Next() {
             m_other = {text.number, text.text, text.cutBytes, false};
             return Event::Other;
         }
-        if (m_class == nullptr || !m_parser.IsSameClass()) {
+        if (!m_parser.IsSameClass()) {
             m_class = &InfoOf(line.className, m_parser.ClassNumber());
         }
         const bool isFirst = m_class->role == Role::FamilyBase && line.path == "m_dwCommandType";
@@ -407,7 +407,7 @@ Event LogInput::Next() {
             return EndMessage();
         }
         Hold(source, *m_class, line, isFirst || (begins && source == m_openSource), isFirst);
-        if (source == m_openSource || text.number - m_openLine > kStaleLines || m_waitingBytes > kMaxWaiting) {
+        if (source == m_openSource || text.number - m_openLine > kStaleLines || m_waitingBytes > m_mostWaiting) {
             return EndMessage();
         }
     }

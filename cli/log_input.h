@@ -32,7 +32,8 @@ bool IsHeading(std::string_view line);
 /// stands in front of them; while one message is read, the others' lines wait.
 class LogInput : public Input {
 public:
-    explicit LogInput(ByteSource& source) : m_lines(source) {}
+    explicit LogInput(ByteSource& source, std::size_t mostWaiting = kMaxWaiting)
+        : m_mostWaiting(mostWaiting), m_lines(source) {}
 
     Event Next() override;
     void PassOver(std::string_view begin, std::string_view unless) override;
@@ -79,6 +80,7 @@ private:
     void Unhold(std::deque<Waiting>& lines);
     Event EndMessage();
 
+    std::size_t m_mostWaiting;
     LineReader m_lines;
     LogLineParser m_parser;
     std::deque<ClassInfo> m_classes;     ///< by the parser's numbers

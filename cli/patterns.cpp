@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
@@ -162,7 +163,12 @@ std::optional<double> NumberIn(std::string_view text) {
 
 std::string TextOf(double number) {
     char digits[32];
-    return std::string(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+    char* const end = digits + sizeof digits;
+    const double size = std::abs(number);
+    const bool isUsual = size == 0 || (size >= 1e-6 && size < 1e15);
+    return std::string(digits, (isUsual ? std::to_chars(digits, end, number, std::chars_format::fixed)
+                                        : std::to_chars(digits, end, number))
+                                   .ptr);
 }
 
 bool IsEndOfNumber(std::string_view rest) {

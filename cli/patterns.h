@@ -20,7 +20,7 @@ std::string Lower(std::string_view text);
 /// A number: decimal, with a fraction or an exponent or not, hexadecimal behind 0x, signed and behind it unsigned in
 /// brackets, or true and false, which are 1 and 0. Nothing else may stand there.
 std::optional<double> NumberIn(std::string_view text);
-/// The number with the fewest digits that read back to the same bits.
+/// The number with the fewest digits that read back to the same bits; without an exponent from 0.000001 to 999999999999999.
 std::string TextOf(double number);
 /// Whether this is what may stand behind a number's digits: nothing, or the same number unsigned, as "%d(%u)" writes it.
 bool IsEndOfNumber(std::string_view rest);

@@ -43,6 +43,12 @@ TEST(Convert, TellsAllOfASignal) {
               "       from the text: 0xABCDEE (11259374)\n");
 }
 
+TEST(Convert, TakesFactorsOf32Bits) {
+    EXPECT_THAT(Converted({"0", "7", "--mul", "100000"}), HasSubstr("\nvalue  700000\n"));
+    EXPECT_THAT(Converted({"0", "70000", "--bits", "32", "--div", "-70000"}), HasSubstr("\nvalue  -1\n"));
+    EXPECT_THAT(Converted({"0", "1", "--offset", "-2000000000"}), HasSubstr("\nvalue  -1999999999\n"));
+}
+
 TEST(Convert, TakesSignsAndLimits) {
     const std::string first = "type   other, number: the scaled value in decimal\n";
     EXPECT_THAT(Converted({"0", "0xF0", "--signed", "1"}),
@@ -85,6 +91,10 @@ TEST(Convert, TakesBytes) {
         "text   01AB\n"
         "back   from the value: can't be told: several raw values are shown so\n"
         "       from the text: 01AB\n");
+    // More bits than a byte can count.
+    const std::string many(80, '7');
+    EXPECT_THAT(Converted({"104", many}), HasSubstr("\nraw    " + many + ", 40 bytes\n"));
+    EXPECT_THAT(Converted({"104", many}), HasSubstr("\ntext   " + many + '\n'));
     EXPECT_THAT(Converted({"4", "4F4B"}), HasSubstr("\nraw    4F4B, 2 bytes\nvalue  79\ntext   OK\n"));
 }
 

@@ -5,16 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "cli/patterns.h"
-
 namespace {
 
 using krm_cli::Failure;
 using krm_cli::FieldText;
 using krm_cli::Filter;
-using krm_cli::Matches;
 using krm_cli::MessageHead;
-using krm_cli::NumberIn;
 
 MessageHead Head() {
     MessageHead head;
@@ -87,6 +83,9 @@ TEST(Filter, AsksForFieldsByName) {
     EXPECT_TRUE(Lets("*DTC=P0301"));
     EXPECT_TRUE(Lets("m_strDTCName=\"Cylinder 1 misfire\""));
     EXPECT_TRUE(Lets("m_strDTCName=\"Cylinder 1\"*"));
+    EXPECT_TRUE(Lets("m_strDTCName=C*1*re"));
+    EXPECT_FALSE(Lets("m_strDTCName=C*2*re"));
+    EXPECT_FALSE(Lets("m_strDTCName=C*1*1*re"));
     EXPECT_FALSE(Lets("m_strDTCName=\"Cylinder 1*\""));  // in quotes, a star is one
     EXPECT_TRUE(Lets("m_uchSSRNo=-7"));
     EXPECT_FALSE(Lets("m_strX=*"));
@@ -189,78 +188,6 @@ TEST(Filter, SaysWhatIsWrong) {
     EXPECT_EQ(WhyNot("m_dValue<=\"1\""), "filter: behind <= stands a number: m_dValue<=1");
     EXPECT_EQ(WhyNot("m_dValue<\"=\"5"), "filter: behind < stands a number: m_dValue<=5");
     EXPECT_EQ(WhyNot("\"a b"), "filter: the quote is not closed: a b");
-}
-
-TEST(Patterns, Match) {
-    EXPECT_TRUE(Matches("", ""));
-    EXPECT_FALSE(Matches("", "a"));
-    EXPECT_TRUE(Matches("*", ""));
-    EXPECT_TRUE(Matches("a*c*", "abcbc"));
-    EXPECT_TRUE(Matches("*bc", "abcbc"));
-    EXPECT_FALSE(Matches("*bd", "abcbc"));
-    EXPECT_TRUE(Matches("**a", "A"));
-}
-
-TEST(Patterns, KnowNumbers) {
-    EXPECT_EQ(NumberIn("12"), 12.0);
-    EXPECT_EQ(NumberIn("-1.5e1"), -15.0);
-    EXPECT_EQ(NumberIn("0xFF"), 255.0);
-    EXPECT_EQ(NumberIn(""), std::nullopt);
-    EXPECT_EQ(NumberIn("0x"), std::nullopt);
-    EXPECT_EQ(NumberIn("12 "), std::nullopt);
-    EXPECT_EQ(NumberIn("inf"), std::nullopt);
-    EXPECT_EQ(NumberIn("-inf"), std::nullopt);
-    EXPECT_EQ(NumberIn("nan"), std::nullopt);
-    EXPECT_EQ(NumberIn("--1"), std::nullopt);
-    EXPECT_EQ(NumberIn("+-1"), std::nullopt);
-    EXPECT_EQ(NumberIn("+.5"), 0.5);
-    EXPECT_EQ(NumberIn("-1(4294967295)"), -1.0);
-    EXPECT_EQ(NumberIn("10(mm)"), std::nullopt);
-    EXPECT_EQ(NumberIn("10()"), std::nullopt);
-    EXPECT_EQ(NumberIn("10(1)2)"), std::nullopt);
-    EXPECT_EQ(NumberIn("true"), 1.0);
-    EXPECT_EQ(NumberIn("1,5"), std::nullopt);
-}
-
-TEST(Patterns, ShowTextsHarmlessly) {
-    EXPECT_EQ(krm_cli::Shown("a b"), "a b");
-    EXPECT_EQ(krm_cli::Shown("Gr\xC3\xBC\xC3\x9F"
-                             "e"),
-              "Gr\xC3\xBC\xC3\x9F"
-              "e");
-    EXPECT_EQ(krm_cli::Shown("Gr\xFC\xDF"
-                             "e"),
-              "Gr\xC3\xBC\xC3\x9F"
-              "e");
-    EXPECT_EQ(krm_cli::Shown("\x1B[2J\n\x7F"), "\\x1B[2J\\x0A\\x7F");
-    EXPECT_EQ(krm_cli::Shown(std::string_view("a\0b", 3)), "a\\x00b");
-    EXPECT_EQ(krm_cli::Shown("\xE2\x80\xAE"
-                             "abc"),
-              "\\u202Eabc");
-    EXPECT_EQ(krm_cli::Shown("\xC2\x9B"), "\\u009B");
-    EXPECT_EQ(krm_cli::Shown("\x9B"), "\\x9B");
-}
-
-TEST(Patterns, WriteJson) {
-    std::string json;
-    krm_cli::AppendJson("a\"\\\n\xC3\xBC", json);
-    krm_cli::AppendJson("\xFC", json);
-    EXPECT_EQ(json, "\"a\\\"\\\\\\u000A\xC3\xBC\"{\"$bytes\":\"FC\"}");
-}
-
-TEST(Patterns, CutTextsBetweenCharacters) {
-    EXPECT_EQ(krm_cli::FirstOf("abc", 3), "abc");
-    EXPECT_EQ(krm_cli::FirstOf("abcd", 3), "abc");
-    EXPECT_EQ(krm_cli::FirstOf("a\xC3\xBC", 2), "a");
-    EXPECT_EQ(krm_cli::FirstOf("\x80\x80\x80\x80\x80\x80", 5), "\x80\x80\x80\x80\x80");
-}
-
-TEST(Patterns, KnowAPathsLastName) {
-    EXPECT_EQ(krm_cli::LastName("Data[0].m_strDTC"), "m_strDTC");
-    EXPECT_EQ(krm_cli::LastName("Data[0].m_uchSSRNo[1]"), "m_uchSSRNo");
-    EXPECT_EQ(krm_cli::LastName("m_ulEcuId"), "m_ulEcuId");
-    EXPECT_EQ(krm_cli::LastName("m_cResourceMap[\"help.title\"]"), "m_cResourceMap");
-    EXPECT_EQ(krm_cli::LastName("m_cResourceMap[\"a[1].b\"]"), "m_cResourceMap");
 }
 
 }  // namespace

@@ -72,6 +72,16 @@ TEST(LineReader, LeavesAByteOrderMarkOutThatComesInPieces) {
     }
 }
 
+TEST(LineReader, KeepsAMarkThatIsNotTheFirst) {
+    constexpr std::size_t kBlock = std::size_t{2} * 1024 * 1024;
+    const std::string text = std::string(kBlock - 1, 'x') + "\n\xEF\xBB\xBFy\n";
+    Reading reading(text);
+    LineReader lines(reading.Source());
+    ASSERT_TRUE(lines.Next());
+    ASSERT_TRUE(lines.Next());
+    EXPECT_EQ(lines.Current().text, "\xEF\xBB\xBFy");
+}
+
 TEST(LineReader, CutsALineThatIsTooLong) {
     EXPECT_THAT(LinesOf("1234\n12345\n1234567\nx\n", 4), ElementsAre("1: 1234", "2: 1234 +1", "3: 1234 +3", "4: x"));
     EXPECT_THAT(LinesOf("123456", 4), ElementsAre("1: 1234 +2 no end"));

@@ -98,6 +98,32 @@ TEST(LogInput, TakesAWaitingLineOfAnotherClassForAnotherMessage) {
               "begin 3\n3 m_uchPhaseType=1\nend 3 GetDTC request, source 2, begin is missing\n");
 }
 
+TEST(LogInput, HasNumbersOf32Bits) {
+    EXPECT_EQ(Events(Type() + '\n' + Id(2) + '\n' + Ecu(70000) + '\n'),
+              "begin 1\n1 m_dwCommandType=1\n1 m_dwCommandID=2\n1 m_ulEcuId=70000\nend 1 GetDTC request, ECU 70000\n");
+    // The dump writes it as a signed number.
+    EXPECT_EQ(
+        Events(Type() + '\n' + Id(2) + '\n' + Ecu(-2) + '\n'),
+        "begin 1\n1 m_dwCommandType=1\n1 m_dwCommandID=2\n1 m_ulEcuId=-2\nend 1 GetDTC request, ECU 4294967294\n");
+}
+
+// While one message is read there is room for so much of the others, which is free again when they are taken.
+TEST(LogInput, LetsOnlySoMuchWait) {
+    std::string log;
+    for (int i = 0; i < 8; ++i) {
+        log += "1 " + Type() + "\n2 " + Type() + "\n2 " + Answer("Data[0].m_strDTCName=" + std::string(1000, 'x')) +
+               "\n1 " + Answer("m_bDTCType=1") + '\n';
+    }
+    const auto messages = [&](std::size_t mostWaiting) {
+        Reading reading(log);
+        LogInput input(reading.Source(), mostWaiting);
+        EventsOf(input);
+        return input.Totals().messages;
+    };
+    EXPECT_EQ(messages(3000), 16U);
+    EXPECT_GT(messages(1000), 16U);
+}
+
 // ... and where another thread's line before it had that class.
 TEST(LogInput, TakesALineOfAnothersClassForAnotherMessage) {
     EXPECT_EQ(Events("1 " + Type() + "\n1 " + Id(2) + "\n1 " + Answer("m_bDTCType=1") + "\n2 " + Type() + "\n2 " +

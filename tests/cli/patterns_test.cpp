@@ -57,6 +57,7 @@ TEST(Numbers, AreReadInAllTheirForms) {
     EXPECT_EQ(NumberIn("+7"), 7);
     EXPECT_EQ(NumberIn("12.5"), 12.5);
     EXPECT_EQ(NumberIn(".5"), 0.5);
+    EXPECT_EQ(NumberIn("+.5"), 0.5);
     EXPECT_EQ(NumberIn("-1e3"), -1000);
     EXPECT_EQ(NumberIn("0x7E8"), 2024);
     EXPECT_EQ(NumberIn("0XfF"), 255);
@@ -67,29 +68,11 @@ TEST(Numbers, AreReadInAllTheirForms) {
 }
 
 TEST(Numbers, AreNothingElse) {
-    for (const char* const text : {"",
-                                   "+",
-                                   "-",
-                                   "+-7",
-                                   "--7",
-                                   "- 7",
-                                   " 7",
-                                   "7 ",
-                                   "0x",
-                                   "0x7G",
-                                   "0x-7",
-                                   "inf",
-                                   "-inf",
-                                   "nan",
-                                   "1e",
-                                   "7(",
-                                   "7()",
-                                   "7(8",
-                                   "7(a)",
-                                   "7)8(",
-                                   "truer",
-                                   "1e999",
-                                   "0x10000000000000000"}) {
+    for (const char* const text : {"",     "+",       "-",     "+-7",   "--7",
+                                   "- 7",  " 7",      "7 ",    "0x",    "0x7G",
+                                   "0x-7", "inf",     "-inf",  "nan",   "1e",
+                                   "1,5",  "10(1)2)", "7(",    "7()",   "7(8",
+                                   "7(a)", "7)8(",    "truer", "1e999", "0x10000000000000000"}) {
         EXPECT_EQ(NumberIn(text), std::nullopt) << text;
     }
     EXPECT_TRUE(IsEndOfNumber(""));
@@ -104,6 +87,14 @@ TEST(Numbers, AreNothingElse) {
 
 TEST(Numbers, AreWrittenWithTheFewestDigits) {
     EXPECT_EQ(TextOf(83), "83");
+    EXPECT_EQ(TextOf(0), "0");
+    EXPECT_EQ(TextOf(-700000), "-700000");
+    EXPECT_EQ(TextOf(999999999999999), "999999999999999");
+    EXPECT_EQ(TextOf(1e15), "1e+15");
+    EXPECT_EQ(TextOf(-1.7976931348623157e308), "-1.7976931348623157e+308");
+    EXPECT_EQ(TextOf(-0.0000010123456789012345), "-0.0000010123456789012345");
+    EXPECT_EQ(TextOf(0.000001), "0.000001");
+    EXPECT_EQ(TextOf(0.0000009), "9e-07");
     EXPECT_EQ(TextOf(0.1), "0.1");
     EXPECT_EQ(TextOf(1.0 / 3), "0.3333333333333333");
     EXPECT_EQ(TextOf(6606859581.0827465), "6606859581.0827465");
