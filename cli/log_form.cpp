@@ -1,6 +1,5 @@
 #include "cli/log_form.h"
 
-#include <array>
 #include <charconv>
 #include <cstdint>
 #include <utility>
@@ -285,8 +284,9 @@ bool RebuiltMessage::Set(krm::Value value, char conversion, std::string_view tex
         return true;
     }
     // The log has 32 bits of a number, signed or not, whichever its type is.
-    constexpr std::array<krm_int64, 2> kWrap = {krm_int64{1} << 32U, -(krm_int64{1} << 32U)};
-    return value.SetInteger(*integer + kWrap[0]) || value.SetInteger(*integer + kWrap[1]);
+    constexpr krm_int64 kAll = krm_int64{1} << 32U;
+    return *integer >= -kAll / 2 && *integer < kAll &&
+           value.SetInteger(*integer < 0 ? *integer + kAll : *integer - kAll);
 }
 
 }  // namespace krm_cli

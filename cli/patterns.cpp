@@ -28,19 +28,20 @@ void AppendEscaped(unsigned number, int digits, std::string& out) {
     }
 }
 
+/// How many bytes a character has whose first byte in UTF-8 this is; 0 where none begins so.
+std::size_t CharacterLength(unsigned first) {
+    return first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : first < 0xF5 ? 4 : 0;
+}
+
 /// Takes a character off the front of UTF-8; nothing where that isn't any.
 std::optional<std::uint32_t> TakeCharacter(std::string_view& text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned first = byte(0);
-    const std::size_t more = first < 0x80   ? 0
-                             : first < 0xC2 ? 4
-                             : first < 0xE0 ? 1
-                             : first < 0xF0 ? 2
-                             : first < 0xF5 ? 3
-                                            : 4;
-    if (more == 4 || more >= text.size()) {
+    const std::size_t length = CharacterLength(first);
+    if (length == 0 || length > text.size()) {
         return std::nullopt;
     }
+    const std::size_t more = length - 1;
     std::uint32_t character = more == 0 ? first : first & (0x3FU >> more);
     for (std::size_t i = 1; i <= more; ++i) {
         if ((byte(i) & 0xC0U) != 0x80) {

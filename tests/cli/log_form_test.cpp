@@ -12,8 +12,10 @@
 #include "cli/log_input.h"
 #include "cli/view_page.h"
 #include "krm/exchange/compare.h"
+#include "krm/fields/diag/freeze_frames.h"
 #include "krm/fields/diag/trouble_codes.h"
 #include "krm/framework/message.h"
+#include "krm/messages/diag/freeze_frames.h"
 #include "krm/messages/diag/trouble_codes.h"
 #include "tests/cli/reading.h"
 #include "tests/support/log_capture.h"
@@ -102,6 +104,23 @@ TEST(RebuiltMessage, KeepsWhatHasNoPlace) {
     ASSERT_EQ(message.Rests().size(), 7U);
     EXPECT_EQ(message.Rests()[0].path, "Data[2].m_strDTC");
     EXPECT_EQ(message.Rests()[6].value, "cut");
+}
+
+// 32 bits of a number, whether the line has them with a sign or without.
+TEST(RebuiltMessage, TakesANumberOfEitherSign) {
+    RebuiltMessage message(*krm::FindMessage(1, 6, krm::Direction::Receive));
+    message.Take({"m_lBegin", "4294967294"});
+    message.Take({"m_lEnd", "2147483648"});
+    EXPECT_THAT(message.Rests(), IsEmpty());
+    message.Take({"m_lEnd", "4294967296"});
+    message.Take({"m_lEnd", "-2147483649"});
+    EXPECT_EQ(message.Rests().size(), 2U);
+    CKRMCGetFFDCmdAdaptDataRcv expected;
+    expected.m_lBegin = -2;
+    expected.m_lEnd = -2147483647 - 1;
+    EXPECT_EQ(krm::ToText(krm::Compare(krm::ConstValue(krm::kTypeDescription<CKRMCGetFFDCmdAdaptDataRcv>, &expected),
+                                       message.Content())),
+              "");
 }
 
 TEST(RebuiltMessage, TakesNoTextForANumber) {

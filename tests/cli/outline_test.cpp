@@ -92,7 +92,9 @@ TEST(Outline, TakesIndicesOfAnyForm) {
 TEST(Outline, BeginsAnewWithEachMessage) {
     Outline outline =
         Of({{"m_strName", std::string(2000, 'x')}, {"Data[7].m_strDTC", "P0301"}, {"m_cTime.m_ulId", "1"}});
+    EXPECT_EQ(outline.Element(), "m_cTime.");
     outline.Begin();
+    EXPECT_EQ(outline.Element(), "");
     EXPECT_EQ(EntriesOf(outline), "");
     EXPECT_EQ(outline.StandingOut(), "");
     outline.Take({"m_strName", "y"});

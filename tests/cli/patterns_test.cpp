@@ -61,6 +61,7 @@ TEST(Numbers, AreReadInAllTheirForms) {
     EXPECT_EQ(NumberIn("-1e3"), -1000);
     EXPECT_EQ(NumberIn("0x7E8"), 2024);
     EXPECT_EQ(NumberIn("0XfF"), 255);
+    EXPECT_EQ(NumberIn("0x1000001"), 16777217);  // more bits than a float has
     EXPECT_EQ(NumberIn("0x10000000000"), 1099511627776.0);
     EXPECT_EQ(NumberIn("-1(4294967295)"), -1);
     EXPECT_EQ(NumberIn("true"), 1);
@@ -141,6 +142,7 @@ TEST(Shown, TakesOtherBytesForLatin1) {
     EXPECT_EQ(Shown("\xF4\x90\x80\x80"), "\xC3\xB4\\x90\\x80\\x80");
     // No first byte of any character, and as many behind it as might follow one.
     EXPECT_EQ(Shown("\xF5\xA1\xA1\xA1\xA1"), "\xC3\xB5\xC2\xA1\xC2\xA1\xC2\xA1\xC2\xA1");
+    EXPECT_EQ(Shown("\xF8\xA0\xB0\xA0\xA0"), "\xC3\xB8\xC2\xA0\xC2\xB0\xC2\xA0\xC2\xA0");
     EXPECT_EQ(Shown("\xBF\xA1\xA1\xA1\xA1"), "\xC2\xBF\xC2\xA1\xC2\xA1\xC2\xA1\xC2\xA1");
 }
 

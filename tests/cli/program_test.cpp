@@ -44,6 +44,17 @@ TEST(Program, EndsAsBadPartsAreTold) {
               "       m_ulEcuId = 8\n");
 }
 
+TEST(Program, ShowsAnEcuOf32BitsOfARecording) {
+    const krm::test::TestFolder folder;
+    const std::string file = folder.Write(
+        "a.krmrec", std::string(krm::test::kHeader) +
+                        R"({"exchange":1,"time":"2026-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":)"
+                        R"("GetVinCode","family":"Cmd","direction":"request","content":{"m_ulEcuId":417001234}}})"
+                        "\n");
+    EXPECT_THAT(Krm({"show", file}).out,
+                StartsWith("    1  2026-11-22T09:35:01.123Z  GetVinCode request, ECU 417001234\n"));
+}
+
 TEST(Program, ShowsTimesOfAllYears) {
     const krm::test::TestFolder folder;
     for (const char* const year : {"0001", "1600", "1677", "1970", "2262", "2263", "4052", "9999"}) {

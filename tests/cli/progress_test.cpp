@@ -18,6 +18,8 @@ TEST(Progress, HasABarAndTheTimeLeft) {
               "reading [          ]   0 %  0.0 of 4000000.0 MB");
     EXPECT_EQ(ProgressLine("reading", 5'000'000'001, 5'000'000'001, 5'000'000'000, "messages", 60),
               "reading [##########] 100 %  5000.0 of 5000.0 MB  5000000000 messages  0 s left");
+    EXPECT_EQ(ProgressLine("reading", 123'456'789'012'345, 987'654'321'098'765, 0, "messages", 0),
+              "reading [#         ]  12 %  123456789.0 of 987654321.1 MB  0 s left");
     EXPECT_EQ(ProgressLine("reading", 1'000'000, 10'000'000, 0, "messages", 11),
               "reading [#         ]  10 %  1.0 of 10.0 MB  99 s left");
     EXPECT_EQ(ProgressLine("reading", 1'000'000, 4'000'000, 1, "messages", 200),
