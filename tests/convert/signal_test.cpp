@@ -595,6 +595,8 @@ TEST(RawFromPhysical, ReadsEveryNotation) {
     EXPECT_EQ("none", raw(5, 16, "P"));
     EXPECT_EQ("none", raw(5, 16, ""));
     EXPECT_EQ("found 135", raw(19, 16, "02:15"));
+    EXPECT_EQ("found 16777215", raw(19, 32, "279620:15")) << "31 years";
+    EXPECT_EQ("found 16777215", raw(111, 32, "279620hrs,15min"));
     EXPECT_EQ("none", raw(19, 16, "2:15"));
     EXPECT_EQ("none", raw(19, 16, "02:60"));
     EXPECT_EQ("found 135", raw(111, 16, "2hrs,15min"));
