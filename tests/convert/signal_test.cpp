@@ -585,6 +585,8 @@ TEST(RawFromPhysical, ReadsEveryNotation) {
     EXPECT_EQ("none", raw(3, 12, "0xA"));
     EXPECT_EQ("none", raw(3, 12, "00A"));
     EXPECT_EQ("none", raw(3, 12, "0x1000"));
+    EXPECT_EQ("found 16777217", raw(3, 32, "0x01000001")) << "more bits than a float has";
+    EXPECT_EQ("found 4278190079", Raw(Rule(3, Table(32, 1)), "0xFEFFFFFF"));
     EXPECT_EQ("found 255", raw(112, 8, "FF"));
     EXPECT_EQ("none", raw(112, 8, "0xFF"));
     EXPECT_EQ("found 255", Raw(Rule(3, Table(8, 1)), "0xFFFFFFFF")) << "-1, as the type shows it";

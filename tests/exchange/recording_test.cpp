@@ -601,6 +601,11 @@ TEST(RecordingReader, SaysWhatIsWrongWithALine) {
          "$.type: the message has 1"},
         {"{\"exchange\":1," + time + ",\"type\":1,\"id\":79,\"message\":" + message + "}", 65,
          "$.id: the message has 5"},
+        // The same in their lower 16 bits.
+        {"{\"exchange\":1," + time + ",\"type\":65537,\"id\":5,\"message\":" + message + "}", 58,
+         "$.type: the message has 1"},
+        {"{\"exchange\":1," + time + ",\"type\":1,\"id\":65541,\"message\":" + message + "}", 65,
+         "$.id: the message has 5"},
     };
     for (const auto& [line, offset, fault] : cases) {
         const std::string text = std::string(kHeader) + line + "\n" + std::string(kVinLine);

@@ -174,7 +174,7 @@ std::array<std::uint64_t, 2> KeyOf(std::string_view secret) {
     std::random_device random;
     for (std::uint64_t& half : key) {
         half = static_cast<std::uint64_t>(random()) << 32U;
-        half |= random() & 0xFFFFFFFFU;
+        half |= random();  // 32 bits each
     }
     return key;
 }
