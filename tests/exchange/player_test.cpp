@@ -215,6 +215,17 @@ TEST(Player, NamesTheNearestRequestWhenNoneIsEqual) {
     EXPECT_EQ(Asked(player, CodesRequest(2016, 1)), "1: 0");
 }
 
+TEST(Player, KnowsExchangesByNumbersOf64Bits) {
+    Tape tape;
+    tape.recorder.Write(4294967298U, CodesRequest(2016, 1));
+    tape.recorder.Write(4294967298U, CodesAnswer(7));
+    Player player = tape.Play();
+    EXPECT_EQ(Asked(player, CodesRequest(2016, 1)), "4294967298: 7");
+    EXPECT_EQ(Asked(player, CodesRequest(2016, 2)),
+              "0: no equal GetDTC request was recorded; the nearest is that of exchange 4294967298: "
+              "changed m_uchPhaseType: 1 -> 2");
+}
+
 TEST(Player, TellsAFewDifferencesAndNoLongTexts) {
     Tape tape;
     tape.Add(CKRMCGetTranslationStringCmdAdaptDataSnd(), CKRMCGetTranslationStringCmdAdaptDataRcv());

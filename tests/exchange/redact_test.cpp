@@ -59,6 +59,7 @@ public:
     CKRMList<unsigned char> m_uchBytes;
     CKRMList<signed char> m_chBytes;
     CKRMList<krm_ulong> m_ulNumbers;
+    CKRMList<krm_long> m_lNumbers;
     unsigned short m_ushCells[12] = {};
     CKRMList<RedactedPart> m_cParts;
     CKRMMap<CKRMString, CKRMString> m_cTexts;
@@ -68,8 +69,8 @@ struct krm::Fields<RedactedAnswer>
     : krm::FieldList<&RedactedAnswer::m_bSold, &RedactedAnswer::m_chTemperature, &RedactedAnswer::m_ulMileage,
                      &RedactedAnswer::m_llPhone, &RedactedAnswer::m_dLatitude, &RedactedAnswer::m_strOwner,
                      &RedactedAnswer::m_strNote, &RedactedAnswer::m_cNotes, &RedactedAnswer::m_uchBytes,
-                     &RedactedAnswer::m_chBytes, &RedactedAnswer::m_ulNumbers, &RedactedAnswer::m_ushCells,
-                     &RedactedAnswer::m_cParts, &RedactedAnswer::m_cTexts> {};
+                     &RedactedAnswer::m_chBytes, &RedactedAnswer::m_ulNumbers, &RedactedAnswer::m_lNumbers,
+                     &RedactedAnswer::m_ushCells, &RedactedAnswer::m_cParts, &RedactedAnswer::m_cTexts> {};
 
 namespace {
 
@@ -191,6 +192,24 @@ TEST(Redact, EveryFormInATextIsReplacedByTheSamePseudonym) {
     // And what is none of these stays.
     for (const char* const other : {"KRM4A0", "KRM 4A00", "4B524D344130", "4B--------52 4D 34 41 30 30", ""}) {
         becomes(other, other);
+    }
+}
+
+TEST(Redact, TakesNumbersOfAByteForBytes) {
+    Redactor redactor({.values = {"ab\x7F"
+                                  "cdef",
+                                  "ab\x80"
+                                  "cdef"}});
+    for (const krm_long byte :
+         {krm_long{127}, krm_long{128}, krm_long{-128}, krm_long{-129}, krm_long{383}, krm_long{384}}) {
+        RedactedAnswer answer;
+        for (const krm_long number :
+             {krm_long{'a'}, krm_long{'b'}, byte, krm_long{'c'}, krm_long{'d'}, krm_long{'e'}, krm_long{'f'}}) {
+            answer.m_lNumbers.AddTail(number);
+        }
+        Redact(redactor, answer);
+        const bool isByte = byte >= -128 && byte <= 255;
+        EXPECT_EQ(krm::At(answer.m_lNumbers, 0) == 'a' && krm::At(answer.m_lNumbers, 6) == 'f', !isByte) << byte;
     }
 }
 

@@ -27,6 +27,10 @@ TEST(Schema, HasEveryMessage) {
     }
 }
 
+TEST(Schema, OfTextsByText) {
+    EXPECT_GE(CountOf(R"("m_cResourceMap":{"$ref":"#/$defs/map"})", krm::Schema()), 1);
+}
+
 TEST(Schema, OfOneMessage) {
     const std::array messages = {*krm::FindMessage(1, 27, krm::Direction::Receive)};
     EXPECT_EQ(krm::Schema(messages),
