@@ -47,8 +47,8 @@ TEST(Convert, TakesFactorsOf32Bits) {
     EXPECT_THAT(Converted({"0", "7", "--mul", "100000"}), HasSubstr("\nvalue  700000\n"));
     EXPECT_THAT(Converted({"0", "70000", "--bits", "32", "--div", "-70000"}), HasSubstr("\nvalue  -1\n"));
     EXPECT_THAT(Converted({"0", "1", "--offset", "-2000000000"}), HasSubstr("\nvalue  -1999999999\n"));
-    // More bits than there are count as 32.
-    EXPECT_THAT(Converted({"0", "0xFFF", "--bits", "264"}), HasSubstr("\nvalue  4095\n"));
+    // A digit for four bits each.
+    EXPECT_THAT(Converted({"3", "0xAB", "--bits", "264"}), HasSubstr("\ntext   0x" + std::string(64, '0') + "AB\n"));
 }
 
 TEST(Convert, TakesSignsAndLimits) {

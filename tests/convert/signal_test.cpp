@@ -483,6 +483,7 @@ TEST(RawFromPhysical, TakesNoNumberThatIsNone) {
 
 TEST(RawFromPhysical, OfSecondsInWords) {
     EXPECT_EQ("none", Raw(Rule(115, Table(16)), "2 hours"));
+    EXPECT_EQ("found 4294962060", Raw(Rule(115, Table(32)), "1193045hrs,1min")) << "136 years";
     EXPECT_EQ("no inverse", Raw(Rule(115, Table(16, 0, 0)), "0hrs,0min"));
 }
 

@@ -405,6 +405,7 @@ TEST_F(PrintfTest, Reals) {
 TEST_F(PrintfTest, LongDoublesOfADoublesPrecision) {
     KRM_NOT_UNDER(Memcheck, "memcheck computes the processor's 80-bit numbers in 64 bits");
     ExpectAsPrintf("%Lf %Le %Lg", 1.5L, -2.25L, 1e10L);
+    ExpectAsPrintf("%.17Lg", static_cast<long double>(0.1));
 }
 
 TEST_F(PrintfTest, TextsCharactersAndPointers) {

@@ -624,9 +624,9 @@ TEST(ElementDescription, ReturnsTheLastNestedResult) {
     CKRMCElement root("R");
     CKRMCElement* const child = root.CreateElement(nullptr, "C");
     CKRMCElement* const grandchild = child->CreateElement(nullptr, "D");
-    auto* const last = new Enclosing<CKRMCElement, 43>("D");
+    auto* const last = new Enclosing<CKRMCElement, 1510277121>("D");
     Link::Between(*grandchild, *last);
-    EXPECT_EQ(root.Description(text), 43u);
+    EXPECT_EQ(root.Description(text), 1510277121u);
     root.CreateElement(nullptr, "C");
     EXPECT_EQ(root.Description(text), 0u);
 }
