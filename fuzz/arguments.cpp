@@ -177,7 +177,10 @@ void CheckResult(const Arguments& arguments, const Result& result) {
     }
     // What follows --json may be another option's value, as --json itself may be.
     if ((command == "show" || isDiff) && arguments.size() > 1 && arguments[1] == "--json" && result.status != 2) {
-        if (!Has(arguments, "-h") && !Has(arguments, "--help")) {
+        // -h may have other letters behind it.
+        const bool asksForHelp = std::ranges::any_of(
+            arguments, [](const std::string& argument) { return argument.starts_with("-h") || argument == "--help"; });
+        if (!asksForHelp) {
             CheckJsonLines(result.out);
         }
     } else if (!Has(arguments, "--json")) {

@@ -524,7 +524,8 @@ void CheckMessages(krm::fuzz::Input& input) {
             begun.push_back(one);
         }
         const std::string minutes = std::to_string(10 + i % 50);
-        log += "10:" + minutes + ":00 T" + std::to_string(one) + logged[one].source + ' ';
+        // The source's number is a word of its own: behind "1:2" it would be a part of a time.
+        log += "10:" + minutes + ":00 T" + std::to_string(one) + ' ' + logged[one].source + ' ';
         log += logged[one].lines[next[one]++] + (order % 3 == 0 ? "\r\n" : "\n");
     }
     const Told told = CheckBytes(log);

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Checks that the tests can fail: changes the library at one place at a time and sees whether a test notices.
+"""Checks that the tests can fail: changes library or program at one place at a time and sees whether a test notices.
 
-    tools/mutate.py [COUNT] [--build DIR] [--seed WORD] [--only REGEX] [--list] [--headers N]
+    tools/mutate.py [COUNT] [--build DIR] [--seed WORD] [--only REGEX] [--list] [--headers N] [--jobs N]
 
-COUNT places (200 if not given) are drawn from krm/ and platform/, evenly over the kinds of change below, the same ones for
+COUNT places (200 if not given) are drawn from krm/, platform/ and cli/, evenly over the kinds of change below, the same ones for
 the same seed and the same code. --only draws from the changes alone whose description ("krm/convert/converter.cpp:57
-constant: 1 -> 2") matches; --list shows the draw and runs nothing. Kinds:
+constant: 1 -> 2") matches; --list shows the draw and runs nothing. As many changes are tried at a time as there are
+processors, or --jobs. Kinds:
 
     comparison      < and <=, > and >=, == and != exchanged
     arithmetic      + - * / % += and the like replaced, ++ and -- exchanged, a sign lost
@@ -34,13 +35,14 @@ std::min's arguments exchanged). The types of the interface's fields stay, too: 
 (tests/interface/), which a changed header isn't compiled with.
 
 DIR is a tree that is built already (build/linux64; `./dev mutate` builds it). Neither the checkout nor the tree is ever
-changed: the changed file and all that is built from it lie in DIR/mutants, which goes at the end, interrupted or not. The
-tests' program stays as it is and loads the changed library. A changed source costs one object, without optimisation. A
-changed header that tests include, too, costs those sources of the library that include it and a small program of the tests
-that stand for it (TESTS_OF_HEADERS), so the draw takes only few of them (--headers).
+changed: the changed file, all that is built from it and what the tests write lie in DIR/mutants, which goes at the end,
+interrupted or not. The tests' program stays as it is and loads the changed library. A changed source costs one object,
+without optimisation, but with the standard library's assertions and traps for undefined behaviour: what the sanitizers see
+is noticed here, too. A changed header that tests include, too, costs those sources of the library that include it and a
+small program of the tests that stand for it (TESTS_OF_HEADERS), so the draw takes only few of them (--headers).
 
 The suites of the changed file's own folder run first, then the other quick ones, then the slow ones; the first failure
-ends it. A header of krm/framework/ must also still refuse the code of tests/must_not_compile. A change that doesn't
+ends it. A change of the program krm is tested by the suites of tests/cli/, and by what ctest runs it for (cli.*). A header of krm/framework/ must also still refuse the code of tests/must_not_compile. A change that doesn't
 compile was noticed by the compiler (warnings don't count: an unused parameter or a missing pair of parentheses says
 nothing about the tests), one that crashes or fails a test by the tests, and one that doesn't end by the time limit. What
 is known to change nothing that a caller could see stands in tools/mutate_equivalent.txt with the reason, and isn't drawn.
@@ -50,6 +52,7 @@ Exits with 0 when every change was noticed, with 1 when not. The result is in DI
 
 import argparse
 import bisect
+import copy
 import hashlib
 import json
 import os
@@ -61,7 +64,9 @@ import signal
 import subprocess
 import sys
 from collections import Counter, namedtuple
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
+from queue import SimpleQueue
 
 ROOT = Path(__file__).resolve().parent.parent
 EQUIVALENT = ROOT / "tools" / "mutate_equivalent.txt"
@@ -88,8 +93,14 @@ TESTS_OF_HEADERS = {
     "krm/convert/internal/numbers.h": ["tests/convert/decimal_text_test.cpp", "tests/convert/base_conversions_test.cpp"],
 }
 
-# The library's include roots. A path is relative to the checkout everywhere; what lies in platform/ is included without it.
-INCLUDE_ROOTS = ("krm/", "platform/krm/")
+# Where code is changed: the library's include roots, and the program krm. A path is relative to the checkout everywhere; what
+# lies in platform/ is included without it.
+PROGRAM = "cli/"
+INCLUDE_ROOTS = ("krm/", "platform/krm/", PROGRAM)
+
+# How a changed source is compiled.
+CHECKED = ["-O0", "-g0", "-w", "-D_GLIBCXX_ASSERTIONS", "-fsanitize=shift,bounds,signed-integer-overflow,float-cast-overflow",
+           "-fsanitize-undefined-trap-on-error"]
 
 MEMORY_LIMIT = 6 << 30
 
@@ -525,7 +536,7 @@ def draw(mutants, count, headers, seed):
 
 
 class Tree:
-    """A build tree, and the folder beside it where changed sources are built."""
+    """A build tree, and the folder in it where a changed source is built and tested."""
 
     def __init__(self, build):
         self.build = build
@@ -541,10 +552,19 @@ class Tree:
                           for name in ("krmc_adaptation_data", "krmc_exchange", "krmc_platform")}
         self.links = {name: self._link_command(path.relative_to(build)) for name, path in self.libraries.items()}
         self.test_link = self._link_command("bin/krm_tests")
+        self.program_link = self._link_command("bin/krm")
+        self.program_tests = [test["command"] for test in json.loads(
+            self._run(["ctest", "-R", r"^cli\.", "--show-only=json-v1"]))["tests"]]
         self.includers = self._includers()
         self.times = self._measure()
         self.quick = [name for name, seconds in self.times.items() if seconds < 0.3]
         self.slow = [name for name, seconds in self.times.items() if seconds >= 0.3]
+
+    def with_folder(self, name):
+        """The same tree with a folder of its own below, for another change at the same time."""
+        other = copy.copy(self)
+        other.mutants = self.mutants / name
+        return other
 
     def _run(self, command):
         return subprocess.run(command, cwd=self.build, check=True, capture_output=True, text=True).stdout
@@ -590,7 +610,7 @@ class Tree:
         words[place + 1] = str(extra.get("file", words[place + 1]))
         words[1:1] = [f"-I{extra['include']}"] if "include" in extra else []
         output.parent.mkdir(parents=True, exist_ok=True)
-        return subprocess.run(words + ["-O0", "-g0", "-w"], cwd=self.build, capture_output=True, timeout=300).returncode == 0
+        return subprocess.run(words + CHECKED, cwd=self.build, capture_output=True, timeout=300).returncode == 0
 
     def link(self, name, objects):
         """Links the library again, with `objects` (source -> object) in the place of its own."""
@@ -601,12 +621,31 @@ class Tree:
         words[words.index("-o") + 1] = str(self.mutants / f"lib{name}.so.1")
         self._link(words)
 
-    def link_tests(self, objects):
-        """Links a program of just the tests in `objects`, and of what supports them."""
-        words = [word for word in self.test_link if "/support/" in word or not word.endswith("_test.cpp.o")]
-        words[words.index("-o") + 1] = str(self.mutants / "some_tests")
-        words[words.index("-o"):words.index("-o")] = [str(made) for made in objects]
+    def link_tests(self, objects, tests=()):
+        """Links a program of the tests in `objects`, of those of `tests` that aren't, and of what supports them."""
+        self._link_with(objects, "some_tests", [
+            word for word in self.test_link if "/support/" in word or not word.endswith("_test.cpp.o")
+            or self.sources.get(word) in tests])
+
+    def link_program(self, objects):
+        self._link_with(objects, "krm", self.program_link)
+
+    def _link_with(self, objects, name, command):
+        """Links what `command` does, with `objects` (source -> object) in front of its libraries, which hold the same as they
+        were, or in the place of its own."""
+        words = [word for word in command if self.sources.get(word) not in objects]
+        words[words.index("-o") + 1] = str(self.mutants / name)
+        words[words.index("-o"):words.index("-o")] = [str(made) for made in objects.values()]
         self._link(words)
+
+    def program_passes(self):
+        """Whether the changed program krm does what ctest runs it for: True, False, or None at the time limit."""
+        program = str(self.build / "bin" / "krm")
+        for command in self.program_tests:
+            passed = self._ends_well([str(self.mutants / "krm") if word == program else word for word in command], 60)
+            if not passed:
+                return passed
+        return True
 
     def _link(self, words):
         """No change here renames anything, so what compiles links; if not, the fault is this program's."""
@@ -618,15 +657,20 @@ class Tree:
         """Whether the tests pass with the changed libraries: True, False, or None at the time limit."""
         flags = self.mutants / "flags"
         flags.write_text("--gtest_filter=" + ":".join(name + ".*" for name in suites) + "\n" if suites else "")
-        limit = 30 + 8 * sum(self.times[name] for name in suites) if suites else 120
-        environment = dict(os.environ, LD_LIBRARY_PATH=str(self.mutants))
+        limit = 30 + 8 * sum(self.times[name] for name in suites) if suites else 60
+        return self._ends_well([program, "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_flagfile={flags}"], limit)
+
+    def _ends_well(self, command, limit):
+        """Whether `command` ends with 0, with the changed libraries if there are some; None at the time limit."""
+        written = self.mutants / "written"
+        written.mkdir(exist_ok=True)
+        environment = dict(os.environ, LD_LIBRARY_PATH=str(self.mutants), TEST_TMPDIR=str(written), TMPDIR=str(written))
 
         def limits():
             resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
-        process = subprocess.Popen([program, "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_flagfile={flags}"],
-                                   cwd=self.mutants, env=environment, preexec_fn=limits, start_new_session=True,
+        process = subprocess.Popen(command, cwd=self.mutants, env=environment, preexec_fn=limits, start_new_session=True,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
             return process.wait(limit) == 0
@@ -648,8 +692,9 @@ class Tree:
                                   capture_output=True).returncode == 0
                    for source in sorted(folder.glob("*.cpp")) if source.stem != "below_cpp20")
 
-    def clean(self):
+    def empty_folder(self):
         shutil.rmtree(self.mutants, ignore_errors=True)
+        self.mutants.mkdir(parents=True)
 
 
 def suites_of_folder(path):
@@ -667,9 +712,9 @@ def stands_in_framework_header(mutant):
 
 def verdict(tree, mutant):
     """"compiler", "test", "time limit", or "unnoticed"."""
-    tree.clean()
-    tree.mutants.mkdir()
+    tree.empty_folder()
     objects, program, stages = {}, tree.program, None
+    in_program = mutant.path.startswith(PROGRAM)
     if mutant.path.endswith(".cpp"):
         changed = tree.mutants / Path(mutant.path).name
         changed.write_text(mutant.text)
@@ -683,7 +728,7 @@ def verdict(tree, mutant):
         extra = {"include": tree.mutants / "include"}
         includers = tree.includers.get(mutant.path, set())
         tests = [name for name in includers if name.startswith("tests/")]
-        if tests:
+        if tests and not in_program:
             stem = include_path(mutant.path).removeprefix("krm/").removesuffix(".h")
             tests = [name for name in TESTS_OF_HEADERS.get(mutant.path, [f"tests/{stem}_test.cpp"])
                      if (ROOT / name).exists()]
@@ -695,8 +740,15 @@ def verdict(tree, mutant):
             if not tree.compile(source, objects[source], extra):
                 return "compiler"
         if tests:
-            tree.link_tests([objects[name] for name in tests])
+            tree.link_tests(objects if in_program else {name: objects[name] for name in tests})
             program, stages = tree.mutants / "some_tests", [[]]
+    if in_program:
+        if mutant.path == PROGRAM + "main.cpp":
+            stages = []  # the tests have one of their own
+        elif stages is None:
+            tree.link_tests(objects, [name for name in tree.objects if name.startswith("tests/cli/")])
+            program, stages = tree.mutants / "some_tests", [[]]
+        tree.link_program({source: made for source, made in objects.items() if not source.startswith("tests/")})
     for name, words in tree.links.items():
         if any(tree.sources.get(word) in objects for word in words):
             tree.link(name, objects)
@@ -715,6 +767,10 @@ def verdict(tree, mutant):
             return "time limit"
         if not passed:
             return "test"
+    if in_program:
+        passed = tree.program_passes()
+        if not passed:
+            return "time limit" if passed is None else "test"
     if stands_in_framework_header(mutant) and not tree.refuses_bad_code():
         return "test"
     return "unnoticed"
@@ -728,6 +784,7 @@ def main():
     parser.add_argument("--only", default="")
     parser.add_argument("--headers", type=int, default=15)
     parser.add_argument("--list", action="store_true")
+    parser.add_argument("--jobs", type=int, default=len(os.sched_getaffinity(0)))
     options = parser.parse_args()
 
     mutants, equivalent = all_mutants()
@@ -750,12 +807,27 @@ def main():
         tree = Tree(build)
         if any(stands_in_framework_header(mutant) for mutant in drawn) and not tree.refuses_bad_code():
             raise SystemExit("the code of tests/must_not_compile isn't refused as it announces, already without any change")
-        with report.open("w") as out:
-            for number, mutant in enumerate(drawn, 1):
-                results[mutant] = verdict(tree, mutant)
-                line = f"{number}/{len(drawn)} {results[mutant]:10} {describe(mutant)}"
-                print(line, flush=True)
-                print(line, file=out, flush=True)
+        folders = SimpleQueue()
+        for job in range(options.jobs):
+            folders.put(tree.with_folder(str(job)))
+
+        def tried(mutant):
+            folder = folders.get()
+            try:
+                return verdict(folder, mutant)
+            finally:
+                folders.put(folder)
+
+        with report.open("w") as out, ThreadPoolExecutor(options.jobs) as pool:
+            try:
+                for number, (mutant, found) in enumerate(zip(drawn, pool.map(tried, drawn)), 1):
+                    results[mutant] = found
+                    line = f"{number}/{len(drawn)} {found:10} {describe(mutant)}"
+                    print(line, flush=True)
+                    print(line, file=out, flush=True)
+            except BaseException:
+                pool.shutdown(wait=False, cancel_futures=True)
+                raise
             counts = Counter(results.values())
             by_kind = {kind: Counter(result for mutant, result in results.items() if mutant.kind == kind)
                        for kind in sorted(kinds)}

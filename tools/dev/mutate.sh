@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-#: ./dev mutate [COUNT]          change the library at COUNT places (default 200), one at a time: does a test notice?
+#: ./dev mutate [COUNT]          change the code at COUNT places (default 200), one at a time: does a test notice?
 # Further arguments are options of tools/mutate.py.
 . "$(dirname "$0")/common.sh"
 
 need "${build_tools[@]}" python3 "${test_tools[@]}"
 build linux64
-say "changing the library at one place at a time"
+say "changing the code at one place at a time"
 python3 tools/mutate.py "$@"
