@@ -1,4 +1,5 @@
 // krm diff: what differs between two exchanges.
+#include <charconv>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -34,11 +35,22 @@ void Check(const krm::CompareOptions& options, const std::string& what) {
     throw Failure(what + ": no message has this: " + error);
 }
 
+/// A number as it is written in every locale.
+double ToleranceIn(const std::string& text) {
+    double number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || stop != end || !(number >= 0)) {
+        throw Failure("--tolerance is no number of 0 or more: " + Shown(text));
+    }
+    return number;
+}
+
 krm::CompareOptions CompareOptionsOf(const DiffOptions& options) {
     krm::CompareOptions compare;
     compare.ignore = options.ignore;
     compare.forOtherClassesToo = true;
-    compare.tolerance.absolute = options.tolerance;
+    compare.tolerance.absolute = options.tolerance.empty() ? 0 : ToleranceIn(options.tolerance);
     for (const std::string& pattern : options.ignore) {
         krm::CompareOptions one;
         one.ignore = {pattern};

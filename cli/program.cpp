@@ -53,8 +53,7 @@ void AddDiff(CLI::App& app, Chosen& chosen) {
         ->type_name("PATH=FIELD[,FIELD...]")
         ->allow_extra_args(false);
     diff->add_option("--tolerance", options->tolerance, "How far doubles may lie apart and be equal (0)")
-        ->type_name("NUMBER")
-        ->check(CLI::NonNegativeNumber);
+        ->type_name("NUMBER");
     diff->add_flag("--json", options->isJson, "Write a JSON document per difference, each on a line");
     diff->footer(
         "Messages find each other by command, direction and ECU, in their order. Times aren't compared.\n"

@@ -30,7 +30,7 @@ struct DiffOptions {
     std::string file2;
     std::vector<std::string> ignore;
     std::vector<std::string> keys;
-    double tolerance = 0;
+    std::string tolerance;  ///< a number; empty for 0
     bool isJson = false;
 };
 int RunDiff(const DiffOptions& options, const Surroundings& surroundings);

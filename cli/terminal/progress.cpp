@@ -1,25 +1,34 @@
 #include "cli/terminal/progress.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 
 namespace terminal {
+namespace {
+
+/// In every locale with a point.
+std::string Megabytes(double bytes) {
+    char text[32];
+    return std::string(text, std::to_chars(text, text + sizeof text, bytes / 1e6, std::chars_format::fixed, 1).ptr);
+}
+
+}  // namespace
 
 std::string ProgressLine(const char* doing, std::uint64_t bytes, std::optional<std::uint64_t> total,
                          std::uint64_t count, const char* counted, double seconds) {
-    constexpr double kMegabyte = 1e6;
     char text[128];
     const double done = static_cast<double>(bytes);
     if (!total || *total == 0) {
-        std::snprintf(text, sizeof text, "%s %.1f MB  %llu %s", doing, done / kMegabyte,
+        std::snprintf(text, sizeof text, "%s %s MB  %llu %s", doing, Megabytes(done).c_str(),
                       static_cast<unsigned long long>(count), counted);
         return text;
     }
     const double all = static_cast<double>(*total);
     const double part = std::min(1.0, done / all);
     const std::string bar(static_cast<std::size_t>(part * 10), '#');
-    std::snprintf(text, sizeof text, "%s [%-10s] %3d %%  %.1f of %.1f MB", doing, bar.c_str(),
-                  static_cast<int>(part * 100), done / kMegabyte, all / kMegabyte);
+    std::snprintf(text, sizeof text, "%s [%-10s] %3d %%  %s of %s MB", doing, bar.c_str(), static_cast<int>(part * 100),
+                  Megabytes(done).c_str(), Megabytes(all).c_str());
     std::string line = text;
     if (count != 0) {
         std::snprintf(text, sizeof text, "  %llu %s", static_cast<unsigned long long>(count), counted);

@@ -126,6 +126,11 @@ TEST(Diff, HasATolerance) {
     EXPECT_EQ(Compared(test("1.5"), test("1.625")).status, 1);
     EXPECT_EQ(Compared(test("1.5"), test("1.625"), {"--tolerance", "0.125"}).status, 0);
     EXPECT_EQ(Compared(test("1.5"), test("1.625"), {"--tolerance", "0.1"}).status, 1);
+    for (const char* const wrong : {"-1", "-0.1", "0,1", "1 ", "nan", "much", "1e999"}) {
+        const Call call = Compared(test("1.5"), test("1.5"), {"--tolerance=" + std::string(wrong)});
+        EXPECT_EQ(call.status, 2) << wrong;
+        EXPECT_EQ(call.err, "krm: --tolerance is no number of 0 or more: " + std::string(wrong) + '\n');
+    }
 }
 
 TEST(Diff, RefusesWhatNoMessageHas) {
