@@ -106,6 +106,18 @@ TEST(RebuiltMessage, KeepsWhatHasNoPlace) {
     EXPECT_EQ(message.Rests()[6].value, "cut");
 }
 
+// A text of the library ends at its first NUL.
+TEST(RebuiltMessage, TakesNoTextWithANul) {
+    RebuiltMessage message(GetDtcAnswer());
+    message.Take({"Data[0].m_strDTC", std::string_view("P\0"
+                                                       "0301",
+                                                       6)});
+    ASSERT_EQ(message.Rests().size(), 1U);
+    EXPECT_EQ(message.Rests()[0].value, std::string("P\0"
+                                                    "0301",
+                                                    6));
+}
+
 // 32 bits of a number, whether the line has them with a sign or without.
 TEST(RebuiltMessage, TakesANumberOfEitherSign) {
     RebuiltMessage message(*krm::FindMessage(1, 6, krm::Direction::Receive));

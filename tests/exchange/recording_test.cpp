@@ -591,6 +591,8 @@ TEST(RecordingReader, SaysWhatIsWrongWithALine) {
         {"{\"exchange\":1,\"exchange\":1}", 14, "$.exchange: this member comes twice"},
         {"{\"time\":5}", 8, "$.time: expected a time"},
         {"{\"time\":\"yesterday\"}", 8, "$.time: expected a time in UTC, such as \"2026-11-22T09:35:00.123456Z\""},
+        {"{\"time\":\"202\"}", 8, "$.time: expected a time in UTC, such as \"2026-11-22T09:35:00.123456Z\""},
+        {"{\"time\":\"\"}", 8, "$.time: expected a time in UTC, such as \"2026-11-22T09:35:00.123456Z\""},
         {"{\"type\":4294967296}", 8, "$.type: expected a whole number from 0 to 4294967295"},
         {"{\"id\":\"2\"}", 6, "$.id: expected a whole number from 0 to 4294967295"},
         {"{\"message\":}", 11, "$.message: expected a value"},
