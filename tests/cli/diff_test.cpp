@@ -13,6 +13,7 @@ namespace {
 
 using krm::test::Call;
 using krm::test::Krm;
+using krm::test::RecordedVin;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
@@ -147,10 +148,7 @@ TEST(Diff, RefusesWhatNoMessageHas) {
 }
 
 TEST(Diff, TellsLinesOfRecordingsThatItCantRead) {
-    const std::string line =
-        R"({"exchange":1,"time":"2026-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":)"
-        R"("GetVinCode","family":"Cmd","direction":"request","content":{"m_ulEcuId":7}}})"
-        "\n";
+    const std::string line = RecordedVin("request", R"({"m_ulEcuId":7})");
     const std::string whole = std::string(krm::test::kHeader) + line;
     const Call call = Compared(whole, whole + "no line\n" + line);
     EXPECT_EQ(call.status, 2);

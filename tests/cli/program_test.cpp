@@ -11,6 +11,7 @@ namespace {
 
 using krm::test::Call;
 using krm::test::Krm;
+using krm::test::RecordedVin;
 using ::testing::StartsWith;
 
 // A name may come from a stranger, as what is shown does.
@@ -25,14 +26,9 @@ TEST(Program, TellsNamesOfFilesHarmlessly) {
 
 TEST(Program, EndsAsBadPartsAreTold) {
     const krm::test::TestFolder folder;
-    const std::string file = folder.Write(
-        "a.krmrec", std::string(krm::test::kHeader) +
-                        R"({"exchange":1,"time":"2026-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":)"
-                        R"("GetVinCode","family":"Cmd","direction":"request","content":{"m_ulEcuId":7}}})"
-                        "\nno line\n"
-                        R"({"exchange":2,"time":"2026-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":)"
-                        R"("GetVinCode","family":"Cmd","direction":"request","content":{"m_ulEcuId":8}}})"
-                        "\n");
+    const std::string file =
+        folder.Write("a.krmrec", std::string(krm::test::kHeader) + RecordedVin("request", R"({"m_ulEcuId":7})") +
+                                     "no line\n" + RecordedVin("request", R"({"m_ulEcuId":8})", 2));
     const Call first = Krm({"show", file, "--message", "1"});
     EXPECT_EQ(first.status, 0);
     EXPECT_EQ(first.err, "");
@@ -47,10 +43,7 @@ TEST(Program, EndsAsBadPartsAreTold) {
 TEST(Program, ShowsAnEcuOf32BitsOfARecording) {
     const krm::test::TestFolder folder;
     const std::string file = folder.Write(
-        "a.krmrec", std::string(krm::test::kHeader) +
-                        R"({"exchange":1,"time":"2026-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":)"
-                        R"("GetVinCode","family":"Cmd","direction":"request","content":{"m_ulEcuId":417001234}}})"
-                        "\n");
+        "a.krmrec", std::string(krm::test::kHeader) + RecordedVin("request", R"({"m_ulEcuId":417001234})"));
     EXPECT_THAT(Krm({"show", file}).out,
                 StartsWith("    1  2026-11-22T09:35:01.123Z  GetVinCode request, ECU 417001234\n"));
 }
@@ -59,11 +52,7 @@ TEST(Program, ShowsTimesOfAllYears) {
     const krm::test::TestFolder folder;
     for (const char* const year : {"0001", "1600", "1677", "1970", "2262", "2263", "4052", "9999"}) {
         const std::string file = folder.Write(
-            "a.krmrec",
-            std::string(krm::test::kHeader) + R"({"exchange":1,"time":")" + year +
-                R"(-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":"GetVinCode","family":"Cmd",)"
-                R"("direction":"request","content":{"m_ulEcuId":7}}})"
-                "\n");
+            "a.krmrec", std::string(krm::test::kHeader) + RecordedVin("request", R"({"m_ulEcuId":7})", 1, year));
         EXPECT_THAT(Krm({"show", file}).out,
                     StartsWith("    1  " + std::string(year) + "-11-22T09:35:01.123Z  GetVinCode request, ECU 7\n"));
     }

@@ -20,10 +20,8 @@ using ::testing::Not;
 
 /// A recording of an answer with this VIN, and as many lines behind it that nobody can read.
 std::string Recording(const std::string& vin, int faults = 0) {
-    std::string text = std::string(krm::test::kHeader) +
-                       R"({"exchange":1,"time":"2026-11-22T09:35:01.123456Z","type":1,"id":79,"message":{"command":)"
-                       R"("GetVinCode","family":"Cmd","direction":"answer","content":{"m_strVinCode":")" +
-                       vin + "\"}}}\n";
+    std::string text =
+        std::string(krm::test::kHeader) + krm::test::RecordedVin("answer", R"({"m_strVinCode":")" + vin + "\"}");
     for (int i = 0; i < faults; ++i) {
         text += "no line\n";
     }
