@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <limits>
 #include <utility>
 
 #include "krm/framework/commands.h"
@@ -49,7 +50,8 @@ void ForEachWord(std::string_view prefix, Take take) {
 std::optional<krm_ulong> Number(std::string_view text) {
     krm_int64 number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size()) {
+    if (error != std::errc() || end != text.data() + text.size() || number < std::numeric_limits<krm_long>::min() ||
+        number > std::numeric_limits<krm_ulong>::max()) {
         return std::nullopt;
     }
     return static_cast<krm_ulong>(number);

@@ -83,6 +83,21 @@ TEST(LogInput, BeginsInTheMiddle) {
               "begin 2\n2 m_dwCommandType=1\n2 m_dwCommandID=5\nend 2 ClearDTC\n");
 }
 
+// ... which is from one source, even where something else than a time changes in front of its lines,
+TEST(LogInput, BeginsInTheMiddleOfAMessageWhoseLinesAreNumbered) {
+    EXPECT_EQ(Events("#1 " + Answer("Data[7].m_strDTC=P0301") + "\n#2 " + Answer("Data[8].m_strDTC=P0171") + '\n'),
+              "begin 1\n1 Data[7].m_strDTC=P0301\n1 Data[8].m_strDTC=P0171\n"
+              "end 1 GetDTC answer, source #1, begin is missing\n");
+}
+
+// ... or nothing does, while another source begins.
+TEST(LogInput, BeginsInTheMiddleOfAMessageWithNothingInFront) {
+    EXPECT_EQ(Events(Answer("Data[7].m_strDTC=P0301") + "\n2 " + Type() + '\n' + Answer("Data[8].m_strDTC=P0171") +
+                     "\n2 " + Id(5) + '\n'),
+              "begin 1\n1 Data[7].m_strDTC=P0301\n1 Data[8].m_strDTC=P0171\nend 1 GetDTC answer, begin is missing\n"
+              "begin 2\n2 m_dwCommandType=1\n2 m_dwCommandID=5\nend 2 ClearDTC, source 2\n");
+}
+
 TEST(LogInput, TakesALineOfAnotherClassForAnotherMessage) {
     EXPECT_EQ(Events(Type() + '\n' + Id(2) + '\n' + Answer("m_bDTCType=1") + '\n' + Request("m_uchPhaseType=1") + '\n'),
               "begin 1\n1 m_dwCommandType=1\n1 m_dwCommandID=2\n1 m_bDTCType=1\nend 1 GetDTC answer\n"
@@ -99,12 +114,21 @@ TEST(LogInput, TakesAWaitingLineOfAnotherClassForAnotherMessage) {
 }
 
 TEST(LogInput, HasNumbersOf32Bits) {
-    EXPECT_EQ(Events(Type() + '\n' + Id(2) + '\n' + Ecu(70000) + '\n'),
-              "begin 1\n1 m_dwCommandType=1\n1 m_dwCommandID=2\n1 m_ulEcuId=70000\nend 1 GetDTC request, ECU 70000\n");
+    const auto events = [](const std::string& ecu) {
+        return Events(Type() + '\n' + Id(2) + "\n[CKRMCBaseCmdAdaptDataSnd" + kOp + "m_ulEcuId=" + ecu + '\n');
+    };
+    const auto expected = [](const std::string& written, const std::string& ecu) {
+        return "begin 1\n1 m_dwCommandType=1\n1 m_dwCommandID=2\n1 m_ulEcuId=" + written + "\nend 1 GetDTC request" +
+               ecu + '\n';
+    };
+    EXPECT_EQ(events("70000"), expected("70000", ", ECU 70000"));
     // The dump writes it as a signed number.
-    EXPECT_EQ(
-        Events(Type() + '\n' + Id(2) + '\n' + Ecu(-2) + '\n'),
-        "begin 1\n1 m_dwCommandType=1\n1 m_dwCommandID=2\n1 m_ulEcuId=-2\nend 1 GetDTC request, ECU 4294967294\n");
+    EXPECT_EQ(events("-2"), expected("-2", ", ECU 4294967294"));
+    EXPECT_EQ(events("-2147483648"), expected("-2147483648", ", ECU 2147483648"));
+    EXPECT_EQ(events("4294967295"), expected("4294967295", ", ECU 4294967295"));
+    // No ECU has more.
+    EXPECT_EQ(events("-2147483649"), expected("-2147483649", ""));
+    EXPECT_EQ(events("4294967296"), expected("4294967296", ""));
 }
 
 // While one message is read there is room for so much of the others, which is free again when they are taken.

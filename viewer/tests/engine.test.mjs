@@ -168,6 +168,12 @@ test("names that only the log has lead to their fields", async () => {
     assert.equal(fieldsOf(engine, 2)[4], `m_cCarTypeOption.${list}=3`);
 });
 
+test("an ECU has 32 bits", async () => {
+    const written = ["70000", "-2", "-2147483648", "4294967295", "-2147483649", "4294967296", "", "1e3", "0x10", " 5"];
+    const { engine } = await opened(lines("", ...written.flatMap((ecu) => request(2, ecu))));
+    assert.deepEqual(engine.files[0].entries.map(({ ecu }) => ecu), [70000, 4294967294, 2147483648, 4294967295, null, null, null, null, null, null]);
+});
+
 test("a log that is cut begins and ends as it can", async () => {
     const text = lines("", ...answer(2, ...code(0, "P0301", 769, "Cylinder 1 misfire detected"), ...codesEnd));
     const from = text.indexOf("m_strDTC=");

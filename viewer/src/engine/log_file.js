@@ -22,9 +22,11 @@ function roleOf(name) {
     };
 }
 
+/** A number of 32 bits as the log has it, signed or not. */
 function numberIn(bytes, start, end) {
-    const value = Number(decode(bytes.subarray(start, end)));
-    return Number.isInteger(value) ? value >>> 0 : null; // the log has them signed
+    const text = decode(bytes.subarray(start, end));
+    const value = /^-?[0-9]+$/.test(text) ? Number(text) : NaN;
+    return value >= -(2 ** 31) && value < 2 ** 32 ? value >>> 0 : null;
 }
 
 function startsWith(bytes, at, text) {
