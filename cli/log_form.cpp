@@ -9,13 +9,9 @@
 namespace krm_cli {
 namespace {
 
-/// The class in a type as the source has it: "CKRMCCommandDTCData" of "CKRMList<CKRMCCommandDTCData>".
-std::string ClassOf(const CatalogueField& field) {
-    if (!field.element.empty()) {
-        return field.element;
-    }
-    const std::size_t open = field.type.find('<');
-    return open == std::string::npos ? field.type : field.type.substr(open + 1, field.type.rfind('>') - open - 1);
+/// The class of a field, or of its elements.
+const std::string& ClassOf(const CatalogueField& field) {
+    return field.element.empty() ? field.type : field.element;
 }
 
 /// The class of the record that `path`, in shape, leads to from a class; empty where it is none.

@@ -58,6 +58,13 @@ TEST(LogForm, KnowsFieldsByTheirPathsInTheLog) {
     EXPECT_EQ(errors.Find("Data[].a_ulReturnCode")->field, "Data[].m_cError.a_ulReturnCode");
 }
 
+TEST(LogForm, KnowsARecordThatTheLogHasNoNameFor) {
+    const LogForm& form = LogForm::Of(*krm::FindMessage(1, 10, krm::Direction::Receive));
+    ASSERT_NE(form.Find("m_ushCarTypeOptionIndex"), nullptr);
+    EXPECT_EQ(form.Find("m_ushCarTypeOptionIndex")->field, "m_cCarTypeOption.m_ushCarTypeOptionIndex");
+    EXPECT_EQ(form.Find("m_cCarTypeOption.m_ushCarTypeOptionIndex"), nullptr);
+}
+
 TEST(LogForm, KnowsWhatIsNotInTheLog) {
     const LogForm& form = LogForm::Of(*krm::FindMessage(1, 109, krm::Direction::Receive));
     EXPECT_THAT(form.NotLogged(), Contains("Data[*].m_strDtcFfdText"));
