@@ -10,6 +10,8 @@
 
 #include "tests/cli/reading.h"
 #include "tests/support/folder.h"
+#include "tests/support/no_more_files.h"
+#include "tests/support/not_under.h"
 
 namespace {
 
@@ -83,5 +85,20 @@ TEST(ByteSource, ReadsWhatWasLookedAt) {
         EXPECT_EQ(AllOf(in), text) << size;
     }
 }
+
+#ifndef _WIN32
+TEST(ByteSource, TellsWhyItCantBeKept) {
+    KRM_NOT_UNDER(AddressSanitizer, "Clang's look at an object's type needs a pipe");
+    const Reading reading("");
+    krm_cli::ByteSource source("/dev/null", reading.Around());
+    const krm::test::NoMoreFiles none;
+    try {
+        source.KeepForAgain();
+        FAIL();
+    } catch (const krm_cli::Failure& failure) {
+        EXPECT_STREQ(failure.what(), "/dev/null: cannot be kept for a second reading: too many open files");
+    }
+}
+#endif
 
 }  // namespace

@@ -99,6 +99,25 @@ TEST(Commands, ExplainALineOfTheLog) {
               "CKRMCOwnCmdAdaptDataSnd\n    no class of the library\n");
 }
 
+// What its help gives as examples finds something.
+TEST(Commands, AreFoundAsItsExamplesAsk) {
+    struct Example {
+        std::string query;
+        const char* found;
+    };
+    const std::string help = Krm({"commands", "--help"}).out;
+    for (const auto& [query, found] :
+         {Example{"1/2", "GetDTC (Cmd)\n"}, Example{"\"*Customize*\"", "GetCustomizeSupportList (Cmd)\n"},
+          Example{"m_ulReadynessStatus", "in CKRMCGetDTCCmdAdaptDataRcv\n"},
+          Example{"\"[CKRMCGetDTCCmdAdaptDataRcv::ErrWriteOperationLog] Data[0].m_strDTC=P0301\"",
+                  "    m_strDTC: text; code as displayed\n"}}) {
+        EXPECT_THAT(help, HasSubstr("\n  krm commands " + query + '\n'));
+        std::string unquoted = query;
+        std::erase(unquoted, '"');
+        EXPECT_THAT(Told(unquoted), HasSubstr(found));
+    }
+}
+
 TEST(Commands, AreListed) {
     const std::string all = Krm({"commands"}).out;
     EXPECT_THAT(all, StartsWith("1/2     GetDTC (Cmd)\n1/5     ClearDTC (Cmd)\n"));

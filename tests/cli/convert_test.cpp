@@ -145,6 +145,25 @@ TEST(Convert, RefusesWhatIsNoNumber) {
     }
 }
 
+TEST(Convert, RefusesWhatIsOutOfRange) {
+    const std::string help = "\nRun krm convert --help for how to call it.\n";
+    for (const char* const code : {"-1", "256"}) {
+        EXPECT_EQ(Refused({code, "1"}), "krm: CODE: Value " + std::string(code) + " not in range 0 to 255" + help);
+        for (const char* const option : {"--signed", "--decimals"}) {
+            EXPECT_EQ(Refused({"0", "1", option, code}),
+                      "krm: " + std::string(option) + ": Value " + code + " not in range 0 to 255" + help);
+        }
+    }
+    for (const char* const bits : {"0", "65536"}) {
+        EXPECT_EQ(Refused({"0", "1", "--bits", bits}),
+                  "krm: --bits: Value " + std::string(bits) + " not in range 1 to 65535" + help);
+    }
+    EXPECT_THAT(Converted({"0", "1", "--bits", "65535"}), HasSubstr(", 65535 bits\n"));
+    EXPECT_THAT(Converted({"0", "1", "--bits", "1"}), HasSubstr(", 1 bits\n"));
+    EXPECT_THAT(Converted({"0", "1", "--signed", "255", "--decimals", "255"}), HasSubstr("raw    0x1 (1), 8 bits\n"));
+    EXPECT_THAT(Converted({"255", "1"}), StartsWith("type   other, number: "));
+}
+
 TEST(Convert, NeedsOneOfBothWays) {
     EXPECT_EQ(Refused({"0"}), "krm: convert needs RAW, or --back and what is shown\n");
     EXPECT_EQ(Refused({"0", "1", "--back", "1"}), "krm: convert needs RAW, or --back and what is shown\n");

@@ -2,7 +2,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <sstream>
+#include <streambuf>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "tests/cli/calls.h"
@@ -156,6 +160,44 @@ TEST(Diff, TellsLinesOfRecordingsThatItCantRead) {
     EXPECT_EQ(call.out,
               "only in the second: message 2: GetVinCode request, ECU 7\n"
               "1 messages are equal, 0 differ; only in the first are 0, only in the second 1\n");
+}
+
+/// A terminal that takes so long for each line that a bar is due when the next block of a file is read.
+class SlowTerminal : public std::streambuf {
+public:
+    const std::string& Text() const { return m_text; }
+
+protected:
+    int_type overflow(int_type character) override {
+        m_text += traits_type::to_char_type(character);
+        if (m_text.back() == '\n') {
+            std::this_thread::sleep_for(std::chrono::milliseconds(250));
+        }
+        return character;
+    }
+
+private:
+    std::string m_text;
+};
+
+TEST(Diff, TellsBadLinesWithNoBarInFrontOfThem) {
+    const krm::test::TestFolder folder;
+    const std::string line = RecordedVin("request", R"({"m_ulEcuId":7})");
+    const std::string whole(krm::test::kHeader);
+    // Longer than a block that is read, so that the bar comes in between.
+    std::string text = whole + "no line\n";
+    for (int i = 0; i < 20'000; ++i) {
+        text += line;
+    }
+    const std::string bad = folder.Write("a.krmrec", text + "nor this\n");
+    const std::string good = folder.Write("b.krmrec", whole + line);
+    std::ostringstream out;
+    SlowTerminal terminal;
+    std::ostream err(&terminal);
+    EXPECT_EQ(krm_cli::RunKrm({"krm", "diff", bad, good}, {out, err, false, true}), 2);
+    EXPECT_THAT(terminal.Text(), StartsWith(bad + ":2: "));
+    EXPECT_THAT(terminal.Text(), HasSubstr("\nsurveying ["));
+    EXPECT_THAT(terminal.Text(), HasSubstr(" \r" + bad + ":20003: "));
 }
 
 }  // namespace

@@ -6,6 +6,10 @@
 #include <cstdint>
 #include <string>
 
+#include "cli/surroundings.h"
+#include "tests/support/no_more_files.h"
+#include "tests/support/not_under.h"
+
 namespace {
 
 using krm_cli::FieldStore;
@@ -47,5 +51,19 @@ TEST(FieldStore, KeepsAFieldWithoutText) {
     store.Add({"", "", 0, 0});
     EXPECT_EQ(AllOf(store), "= 0 0;");
 }
+
+#ifndef _WIN32
+TEST(FieldStore, TellsWhyThereIsNoFile) {
+    KRM_NOT_UNDER(AddressSanitizer, "Clang's look at an object's type needs a pipe");
+    FieldStore store(100);
+    const krm::test::NoMoreFiles none;
+    try {
+        store.Add({"m_strName", std::string(200, 'x'), 1, 0});
+        FAIL();
+    } catch (const krm_cli::Failure& failure) {
+        EXPECT_STREQ(failure.what(), "a message of 241 bytes needs a temporary file: too many open files");
+    }
+}
+#endif
 
 }  // namespace

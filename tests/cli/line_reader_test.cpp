@@ -107,6 +107,23 @@ TEST(LineReader, CutsAlikeWhereverBlocksEnd) {
     }
 }
 
+// A carriage return that comes alone belongs to the line until the line's end is seen.
+TEST(LineReader, LeavesTheEndOfALineOfJustTheMostOutWhereverBlocksEnd) {
+    constexpr std::size_t kBlock = std::size_t{2} * 1024 * 1024;
+    for (std::size_t before = kBlock - 6; before <= kBlock; ++before) {
+        Reading reading(std::string(before - 1, 'x') + "\n123\r\n1234\n");
+        LineReader lines(reading.Source(), 4);
+        ASSERT_TRUE(lines.Next());
+        for (const char* const text : {"123", "1234"}) {
+            ASSERT_TRUE(lines.Next());
+            EXPECT_EQ(lines.Current().text, text) << before;
+            EXPECT_EQ(lines.Current().cutBytes, 0U) << before;
+            EXPECT_TRUE(lines.Current().ended) << before;
+        }
+        EXPECT_FALSE(lines.Next());
+    }
+}
+
 TEST(LineReader, HoldsLittleOfALineOfManyBlocks) {
     const std::string text = "a\n" + std::string(10'000'000, 'x') + "\nb\n" + std::string(3'000'000, 'y');
     Reading reading(text);

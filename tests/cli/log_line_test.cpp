@@ -123,6 +123,7 @@ TEST(LogLine, HasATimeAndASourceInFront) {
     EXPECT_EQ(TakePrefixApart("2024-02-29 23:59:59,999 [main] INFO ").source, "[main] INFO");
     EXPECT_EQ(TakePrefixApart("[   12.345] T7: ").time, "12.345]");
     EXPECT_EQ(TakePrefixApart("1:2 ").time, "1:2");
+    EXPECT_EQ(TakePrefixApart("0:0 9,9 0.9 9-0 0/0 ").time, "0:0 9,9 0.9 9-0 0/0");
     EXPECT_EQ(TakePrefixApart("a.5 5/b 7- -7 a:b:5 ").source, "a.5 5/b 7- -7 a:b:5");
     EXPECT_EQ(TakePrefixApart("").time, "");
     EXPECT_EQ(TakePrefixApart("").source, "");

@@ -87,6 +87,8 @@ TEST(Outline, KeepsLittleOfManyFields) {
 
 TEST(Outline, TakesIndicesOfAnyForm) {
     EXPECT_EQ(EntriesOf(Of({{"Data[x].a", "1"}, {"Data[", "1"}, {"m_cMap[\"a.b\"]", "1"}})), "Data[2] m_cMap[1]");
+    EXPECT_EQ(EntriesOf(Of({{"Data[x].a", "1"}, {"Data[x].b", "1"}, {"Data[y].a", "1"}})), "Data[2]");
+    EXPECT_EQ(EntriesOf(Of({{"Data[0", "1"}, {"D", "1"}})), "Data[1] D=1");
 }
 
 TEST(Outline, BeginsAnewWithEachMessage) {

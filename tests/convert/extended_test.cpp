@@ -16,6 +16,21 @@ namespace {
 
 using krm::convert::SoftExtended;
 
+// What is taken from 1 lies 65 binary places below it, so that half a bit of 64 is left to round: just that is a tie, and what
+// its own last bit adds is not.
+TEST(SoftExtended, DifferencesAtATieAndBesideIt) {
+    const auto left = [](double number, const SoftExtended& factor) {
+        const SoftExtended one(1.0);
+        return static_cast<double>((one + SoftExtended(number) * factor) + SoftExtended(-1.0));
+    };
+    const SoftExtended firstAndLastBit = SoftExtended(krm_int64{3074457345618258603}) * SoftExtended(3.0);  // 2^63 + 1
+    EXPECT_EQ(0.0, left(-0x1p-65, SoftExtended(1.0)));
+    EXPECT_EQ(-0x1p-64, left(-0x1p-128, firstAndLastBit));
+    EXPECT_EQ(-0x1p-64, left(-0x1p-64, SoftExtended(1.0)));
+    EXPECT_EQ(-0x1p-64, left(-0x1p-127, firstAndLastBit));
+    EXPECT_EQ(0.0, left(-0x1p-129, firstAndLastBit));
+}
+
 #if LDBL_MANT_DIG == 64
 
 template <class Number>
