@@ -279,20 +279,17 @@ RecordingFile::RecordingFile(std::string path)
     Open();
 }
 
-RecordingFile::~RecordingFile() {
-    Close();
-}
+RecordingFile::~RecordingFile() = default;
 
-void RecordingFile::Close() {
+void RecordingFile::Handle::Reset(int file) {
     if (m_file > kStandardInput) {
         CloseFile(m_file);
     }
-    m_file = -1;
-    m_unpacker.reset();
+    m_file = file;
 }
 
 void RecordingFile::Rewind() {
-    Close();
+    m_unpacker.reset();
     Open();
 }
 
@@ -301,7 +298,7 @@ void RecordingFile::Open() {
     m_head.clear();
     m_headAt = 0;
     if (m_path == "-") {
-        m_file = kStandardInput;
+        m_file.Reset(kStandardInput);
 #ifdef _WIN32
         _setmode(kStandardInput, _O_BINARY);
 #endif
@@ -310,8 +307,8 @@ void RecordingFile::Open() {
         if (std::filesystem::is_directory(m_path, ignored)) {
             throw FileError(m_name + ": cannot be read: " + ReasonOf(EISDIR));
         }
-        m_file = OpenForReading(m_path.c_str());
-        if (m_file < 0) {
+        m_file.Reset(OpenForReading(m_path.c_str()));
+        if (m_file.Get() < 0) {
             throw FileError(m_name + ": cannot be read: " + ReasonOf(errno));
         }
         m_isRegular = std::filesystem::is_regular_file(m_path, ignored);
@@ -350,7 +347,7 @@ std::size_t RecordingFile::ReadFile(char* buffer, std::size_t size) {
     if (!m_isRegular && m_beforeWaiting) {
         m_beforeWaiting();
     }
-    const int count = ReadSome(m_file, buffer, size);
+    const int count = ReadSome(m_file.Get(), buffer, size);
     if (count < 0) {
         if (errno == EINTR) {
             return 0;

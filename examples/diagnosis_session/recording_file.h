@@ -75,14 +75,28 @@ public:
 private:
     struct Unpacker;
 
+    /// The system's number of an open file; none is below 0. Closes it, but for standard input.
+    class Handle {
+    public:
+        Handle() = default;
+        ~Handle() { Reset(-1); }
+        Handle(const Handle&) = delete;
+        Handle& operator=(const Handle&) = delete;
+
+        int Get() const { return m_file; }
+        void Reset(int file);
+
+    private:
+        int m_file = -1;
+    };
+
     void Open();
-    void Close();
     std::size_t ReadFile(char* buffer, std::size_t size);
     std::size_t ReadUnpacked(char* buffer, std::size_t size);
 
     std::string m_path;
     std::string m_name;
-    int m_file = -1;
+    Handle m_file;
     bool m_isRegular = false;
     bool m_isEmpty = false;
     bool m_atEnd = false;

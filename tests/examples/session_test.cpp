@@ -18,6 +18,11 @@
 #include "examples/diagnosis_session/recording_file.h"
 #include "tests/support/session_run.h"
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 using krm::test::RunSession;
@@ -275,6 +280,23 @@ TEST_F(Session, OtherKindsOfFileAreNamedWithTheCommandThatConvertsThem) {
         EXPECT_EQ(run.status, 2) << name;
         EXPECT_THAT(run.err, StartsWith("diagnosis_session: " + path + ": " + what));
     }
+}
+
+TEST_F(Session, AFileThatIsRefusedIsClosed) {
+    const std::string file = m_folder.Write("drive.json", "{}");
+#ifdef _WIN32
+    EXPECT_THROW(diagnosis_session::RecordingFile{file}, diagnosis_session::FileError);
+    EXPECT_TRUE(std::filesystem::remove(file));  // an open one isn't
+#else
+    const auto nextNumber = [] {
+        const int number = open("/dev/null", O_RDONLY);
+        close(number);
+        return number;
+    };
+    const int before = nextNumber();
+    EXPECT_THROW(diagnosis_session::RecordingFile{file}, diagnosis_session::FileError);
+    EXPECT_EQ(nextNumber(), before);
+#endif
 }
 
 TEST_F(Session, NoCommandToConvertAFileWritesIntoThatFile) {
