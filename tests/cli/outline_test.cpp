@@ -89,6 +89,7 @@ TEST(Outline, TakesIndicesOfAnyForm) {
     EXPECT_EQ(EntriesOf(Of({{"Data[x].a", "1"}, {"Data[", "1"}, {"m_cMap[\"a.b\"]", "1"}})), "Data[2] m_cMap[1]");
     EXPECT_EQ(EntriesOf(Of({{"Data[x].a", "1"}, {"Data[x].b", "1"}, {"Data[y].a", "1"}})), "Data[2]");
     EXPECT_EQ(EntriesOf(Of({{"Data[0", "1"}, {"D", "1"}})), "Data[1] D=1");
+    EXPECT_EQ(EntriesOf(Of({{"m_ulIdList[x]", "1"}, {"m_ulIdList[x]", "2"}})), "m_ulIdList[2]");
 }
 
 TEST(Outline, BeginsAnewWithEachMessage) {

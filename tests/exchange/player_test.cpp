@@ -381,6 +381,19 @@ TEST(Player, SaysWhatCannotBePlayed) {
     EXPECT_EQ(player.Count(), 0U);
 }
 
+TEST(Player, KnowsRequestsByNumbersOf32Bits) {
+    Tape tape;
+    tape.Add(ClearRequest(), CKRMCClearDTCCmdAdaptDataRcv());
+    Player player = tape.Play();
+    Clear request = ClearRequest();
+    request.SetCommandID(65536 + 5);
+    EXPECT_EQ(player.Answer(request).error, "there is no request of type 1, ID 65541");
+    request.SetCommandID(5);
+    request.SetCommandType(65536 + 1);
+    EXPECT_EQ(player.Answer(request).error, "there is no request of type 65537, ID 5");
+    EXPECT_EQ(player.Answer(ClearRequest()).error, "");
+}
+
 TEST(Player, PlaysAFile) {
     const krm::test::TestFolder folder;
     Tape tape;

@@ -661,6 +661,8 @@ TEST(RecordingReader, SaysWhatIsNoRecording) {
         {"\n\r\n", "the file is empty, and so no recording"},
         {"(1436509052.249713) vcan0 7DF#02010D\n", "line 1, offset 0: the file is no recording"},
         {"{}\n", "line 1, offset 0: the file is no recording"},
+        {"\xEF\xBB\xBF{}\n", "line 1, offset 3: the file is no recording"},
+        {"\n\r\n{}\n", "line 3, offset 3: the file is no recording"},
         {"{\"format\":\"recording\",\"version\":1}\n", "line 1, offset 0: the file is no recording"},
         {"{\"format\":\"krm recording\"}\n", "line 1, offset 0: the file is no recording"},
         {"{\"format\":\"krm recording\",\"version\":0}\n", "line 1, offset 0: the file is no recording"},

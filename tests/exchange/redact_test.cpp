@@ -424,6 +424,8 @@ TEST(Redact, ValueWithinAnotherAndValuesThatOverlap) {
     const std::string vin = PseudonymOf(redactor, kVin);
     const std::string part = PseudonymOf(redactor, "000000001234");
     EXPECT_EQ(Redacted(redactor, std::string(kVin) + " 000000001234"), vin + " " + part);
+    std::string both = std::string(kVin) + " 000000001234";
+    EXPECT_EQ(redactor.Redact(both).places, 2U);
     // The longer one is whole, and of the other one's rest nothing stays.
     const std::string overlapping = Redacted(redactor, std::string("XYZ") + kVin);
     EXPECT_EQ(overlapping.substr(3), vin);
@@ -791,6 +793,8 @@ TEST(RedactRecording, ErrorsLeaveNoCopy) {
     to.setstate(std::ios::badbit);
     Redactor redactor;
     EXPECT_NE(krm::RedactRecording(from, to, redactor).error, "");
+    std::istringstream withoutMessages((std::string(krm::test::kHeader)));
+    EXPECT_NE(krm::RedactRecording(withoutMessages, to, redactor).error, "");
     struct OnceOnly : std::stringbuf {
         using std::stringbuf::stringbuf;
         pos_type seekoff(off_type, std::ios_base::seekdir, std::ios_base::openmode) override { return pos_type(-1); }

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "gmock/gmock.h"
@@ -650,6 +652,38 @@ TEST(Element, DestroysAttributesThenGroupsThenFollowers) {
     }
     EXPECT_THAT(destroyed, ElementsAre("attribute", "second child", "group", "element", "inner attribute",
                                        "inner group", "follower"));
+}
+
+/// A node that does something when it goes.
+template <class Node>
+class Going : public Node {
+public:
+    explicit Going(std::function<void()> last) : Node("going"), m_last(std::move(last)) {}
+    Going(const Going&) = delete;
+    Going& operator=(const Going&) = delete;
+    ~Going() override { m_last(); }
+
+private:
+    std::function<void()> m_last;
+};
+
+// By then nothing of its owner leads to nodes that have gone: what is added is the first one again, and goes, too.
+TEST(Element, ANodeThatGoesMayAddToItsOwner) {
+    std::vector<bool> areFirst;
+    const auto add = [&](const CKRMCNode* added) { areFirst.push_back(added->GetPrev() == nullptr); };
+    {
+        CKRMCElement root("R");
+        CKRMCElementGroup* const group = root.CreateElementGroup(nullptr, "group");
+        CKRMCElement* const element = group->CreateElement(nullptr);
+        CKRMCAttribute* const attribute = element->CreateAttribute(nullptr, "attribute");
+        Link::Between(*attribute,
+                      *new Going<CKRMCAttribute>([add, element] { add(element->CreateAttribute(nullptr, "late")); }));
+        CKRMCElementGroup* const inner = element->CreateElementGroup(nullptr, "inner");
+        Link::Between(*inner, *new Going<CKRMCElementGroup>(
+                                  [add, element] { add(element->CreateElementGroup(nullptr, "late")); }));
+        Link::Between(*element, *new Going<CKRMCElement>([add, group] { add(group->CreateElement(nullptr)); }));
+    }
+    EXPECT_THAT(areFirst, ElementsAre(true, true, true));
 }
 
 /// Finds no attributes and no groups by name, so that creating one looks nothing up.
