@@ -93,6 +93,9 @@ TESTS_OF_HEADERS = {
     "krm/convert/internal/numbers.h": ["tests/convert/decimal_text_test.cpp", "tests/convert/base_conversions_test.cpp"],
 }
 
+# What looks at the first value of every field.
+TESTS_OF_FIELDS = ["tests/messages/completeness_test.cpp", "tests/messages/element_completeness_test.cpp"]
+
 # Where code is changed: the library's include roots, and the program krm. A path is relative to the checkout everywhere; what
 # lies in platform/ is included without it.
 PROGRAM = "cli/"
@@ -730,8 +733,10 @@ def verdict(tree, mutant):
         tests = [name for name in includers if name.startswith("tests/")]
         if tests and not in_program:
             stem = include_path(mutant.path).removeprefix("krm/").removesuffix(".h")
-            tests = [name for name in TESTS_OF_HEADERS.get(mutant.path, [f"tests/{stem}_test.cpp"])
-                     if (ROOT / name).exists()]
+            tests = TESTS_OF_HEADERS.get(mutant.path, [f"tests/{stem}_test.cpp"])
+            if mutant.kind == "default" and mutant.path.startswith("krm/messages/"):
+                tests = tests + TESTS_OF_FIELDS
+            tests = [name for name in tests if (ROOT / name).exists()]
             if not tests:
                 raise SystemExit(f"no tests stand for {mutant.path}: name them in TESTS_OF_HEADERS")
         # The tests' own objects first: they are what most often refuses to compile or fails.
