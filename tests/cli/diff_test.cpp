@@ -115,10 +115,13 @@ TEST(Diff, ComparesLinesThatHaveNoPlaceAsTheyAre) {
     EXPECT_EQ(call.status, 1);
     EXPECT_THAT(call.out, HasSubstr("  changed m_b: 2 -> 3\n  added m_c: 5\n  added m_e: 6\n"));
     EXPECT_THAT(Compared(own({"m_a=1", "m_b=2"}), own({"m_b=2"})).out, HasSubstr("  removed m_a: 1\n"));
+    EXPECT_THAT(Compared(own({"m_a=1", "m_b=2", "m_c=4"}), own({"m_b=3"})).out,
+                HasSubstr("  removed m_a: 1\n  changed m_b: 2 -> 3\n  removed m_c: 4\n"));
     const std::string first = own({"m_ulA=1", "m_b=2"});
     const std::string second = own({"m_b=2", "m_ulB=1"});
     EXPECT_EQ(Compared(first, second).status, 1);
     EXPECT_EQ(Compared(first, second, {"--ignore", "m_ul*"}).status, 0);
+    EXPECT_EQ(Compared(first, own({"m_b=3"}), {"--ignore", "m_ul*"}).status, 1);
     EXPECT_EQ(Compared(own({"m_ulA=1", "m_b=2"}), own({"m_ulA=2", "m_b=2"}), {"--ignore", "m_ul*"}).status, 0);
     EXPECT_EQ(Compared(first, own({"m_b=3", "m_ulB=1"}), {"--ignore", "m_ul*"}).status, 1);
 }

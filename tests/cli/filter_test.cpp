@@ -86,6 +86,8 @@ TEST(Filter, AsksForFieldsByName) {
     EXPECT_TRUE(Lets("m_strDTCName=C*1*re"));
     EXPECT_FALSE(Lets("m_strDTCName=C*2*re"));
     EXPECT_FALSE(Lets("m_strDTCName=C*1*1*re"));
+    EXPECT_TRUE(Lets("m_strDTCName=C*lind*er*mis*re"));
+    EXPECT_FALSE(Lets("m_strDTCName=C*linder*er*re"));
     EXPECT_FALSE(Lets("m_strDTCName=\"Cylinder 1*\""));  // in quotes, a star is one
     EXPECT_TRUE(Lets("m_uchSSRNo=-7"));
     EXPECT_FALSE(Lets("m_strX=*"));

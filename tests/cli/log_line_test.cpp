@@ -133,6 +133,7 @@ TEST(LogLine, MayBeAHeadingOfAMessage) {
     EXPECT_TRUE(IsHeading("2024-02-29T23:59:59.999Z 1 == GetDTC request (type 1, ID 2)"));
     EXPECT_TRUE(IsHeading("== unknown command (type 1, ID 900)"));
     EXPECT_FALSE(IsHeading("== GetDTC request"));
+    EXPECT_FALSE(IsHeading("== GetDTC, ID 2 (type 1)"));
     EXPECT_FALSE(IsHeading("a== b (type 1, ID 2)"));
     EXPECT_FALSE(IsHeading(""));
 }

@@ -52,6 +52,19 @@ TEST(Outline, SaysWhatStandsOut) {
     EXPECT_EQ(Of({{"m_ulEcuId", "2024"}, {"m_uchPhaseType", "0"}, {"m_uchGetFFDType", "1"}}).StandingOut(),
               "m_uchGetFFDType=1");
     EXPECT_EQ(Of({{"m_bNotSupport", "1"}}).StandingOut(), "not supported");
+    EXPECT_EQ(Of({{"m_bNotSupport", "1"}, {"m_ulId", "5"}}).StandingOut(), "not supported; m_ulId=5");
+    EXPECT_EQ(Of({{"m_uchBytes", "0x00"}, {"m_uchOther", "0x10"}, {"m_dValue", "0.000000"}}).StandingOut(),
+              "m_uchOther=0x10");
+    EXPECT_EQ(Of({{"Data[0].m_strDTC", "P\x1B"}, {"m_strName", "a\x7F"}}).StandingOut(),
+              "1 code: P\\x1B; m_strName=a\\x7F");
+    EXPECT_EQ(Of({{"m_strA", std::string(40, 'a')},
+                  {"m_strB", std::string(40, 'b')},
+                  {"m_strC", std::string(40, 'c')},
+                  {"m_strD", "d"},
+                  {"m_strE", "e"}})
+                  .StandingOut(),
+              "m_strA=" + std::string(40, 'a') + "; m_strB=" + std::string(40, 'b') +
+                  "; m_strC=" + std::string(40, 'c') + "; ...");
     EXPECT_EQ(Of({{"m_bNotSupport", "0"}, {"m_ulResult", "0"}}).StandingOut(), "m_ulResult=0");
     EXPECT_EQ(Of({{"Data[0].m_strDTC", "P0301"}, {"Data[1].m_strDTC", "P0420"}, {"m_bDTCType", "1"}}).StandingOut(),
               "2 codes: P0301, P0420; m_bDTCType=1");

@@ -178,6 +178,8 @@ TEST(LastName, IsBehindTheLastPointWithoutItsIndex) {
     EXPECT_EQ(LastName("Data[0].m_strDTC"), "m_strDTC");
     EXPECT_EQ(LastName("Data[0].m_uchSSRNo[1]"), "m_uchSSRNo");
     EXPECT_EQ(LastName("Data[0].m_cResourceMap[\"help.title[1]\"]"), "m_cResourceMap");
+    EXPECT_EQ(LastName("m_cMap[\"a[\"b.c[0]\"]"), "m_cMap");
+    EXPECT_EQ(LastName("Data[0].m_dTable[1][2]"), "m_dTable");
     EXPECT_EQ(LastName(""), "");
 }
 

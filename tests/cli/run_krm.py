@@ -194,6 +194,11 @@ with tempfile.TemporaryDirectory() as folder:
         check("and all their bytes", [gzip.decompress(data) if each["gzip"] else data for each, data in
                                       zip(put, bytes_of)] == [text, content("demo.krmrec")])
         check("a page is written again", run("view", log, "-o", page).returncode == 0)
+        another = content("report.html")[:300] + b"<p>another version's</p>"
+        with open(path("another.html"), "wb") as file:
+            file.write(another)
+        check("so is one that another version wrote", run("view", log, "-o", path("another.html")).returncode == 0 and
+              len(content("another.html")) > len(another))
         check("nothing else is", run("view", log, "-o", recording).returncode == 2)
 
     # wrong use, help

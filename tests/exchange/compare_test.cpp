@@ -785,6 +785,8 @@ TEST(Keys, ThatCantBeUsedAreErrors) {
     EXPECT_EQ(wrong({"m_cWheels", {}}), R"(key of "m_cWheels": a ComparedWheel can't be a key)");
     EXPECT_EQ(wrong({"m_cTones", {}}), R"(key of "m_cTones": a list of signed 8-bit integer can't be a key)");
     EXPECT_EQ(wrong({"m_cWheels", {"m_str*"}}), R"(key's field "m_str*": a key's field is written without * and [)");
+    EXPECT_EQ(wrong({"m_cWheels", {"m_strName", "m_str*"}}),
+              R"(key's field "m_str*": a key's field is written without * and [)");
     EXPECT_EQ(wrong({"m_cWheels", {"m_uchBytes[0]"}}),
               R"(key's field "m_uchBytes[0]": a key's field is written without * and [)");
     EXPECT_EQ(wrong({"m_cWheels", {"m_strName."}}),

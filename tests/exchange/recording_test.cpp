@@ -27,6 +27,7 @@
 #include "tests/exchange/random_content.h"
 #include "tests/exchange/recording_text.h"
 #include "tests/support/folder.h"
+#include "tests/support/no_more_files.h"
 #include "tests/support/not_under.h"
 
 #if !defined(_WIN32)
@@ -694,7 +695,27 @@ TEST(RecordingReader, SaysThatAFileCannotBeRead) {
     RecordingReader missing{std::filesystem::path(folder.Path("missing"))};
     EXPECT_THAT(ReadAll(missing), ElementsAre("the file can't be opened: No such file or directory"));
     EXPECT_EQ(missing.Library(), "");
+#if !defined(_WIN32)
+    const auto why = [](const std::string& file) {
+        RecordingReader reader{std::filesystem::path(file)};
+        return ReadAll(reader).front();
+    };
+    const std::string file = folder.Write("file", "");
+    EXPECT_EQ(why(file + "/file"), "the file can't be opened: Not a directory");
+    EXPECT_EQ(why(folder.Path(std::string(300, 'x'))), "the file can't be opened: File name too long");
+#endif
 }
+
+#if !defined(_WIN32)
+TEST(RecordingReader, SaysThatTooManyFilesAreOpen) {
+    KRM_NOT_UNDER(AddressSanitizer, "Clang's look at an object's type needs a pipe");
+    const Folder folder;
+    const std::filesystem::path file(folder.Write("file", ""));
+    const krm::test::NoMoreFiles none;
+    RecordingReader reader(file);
+    EXPECT_THAT(ReadAll(reader), ElementsAre("the file can't be opened: Too many open files"));
+}
+#endif
 
 /// Gives some bytes, and then fails.
 class BrokenBuffer : public std::streambuf {
@@ -723,6 +744,11 @@ TEST(RecordingReader, SaysThatTheRestCannotBeRead) {
     EXPECT_EQ(read.front(), "1: GetVinCode answer");
     EXPECT_EQ(read.back(), "the rest of the file can't be read");
     EXPECT_FALSE(reader.Next());
+
+    BrokenBuffer broken("");
+    std::istream nothing(&broken);
+    RecordingReader ofNothing(nothing);
+    EXPECT_THAT(ReadAll(ofNothing), ElementsAre("the file can't be read"));
 }
 
 TEST(Recorder, LosesNothingThatWasWrittenWhenTheProgramIsKilled) {

@@ -479,6 +479,22 @@ TEST(Redact, SecretMakesPseudonymsAndNoSecretMakesOthersEachTime) {
     EXPECT_EQ(Redacted(redactor, kVin), "LWC0X959111475975");
     EXPECT_NE(pseudonym("one"), pseudonym("two"));
     EXPECT_NE(pseudonym(""), pseudonym(""));
+    Redactor ofField({.fields = {"m_strOwner"}, .secret = "one", .forOtherClassesToo = true});
+    RedactedAnswer answer;
+    answer.m_strOwner = "Jo.";
+    Redact(ofField, answer);
+    EXPECT_EQ(answer.m_strOwner, "Ph.");
+}
+
+// Digits and small letters stay such, wherever in a byte they stand.
+TEST(Redact, HexadecimalKeepsItsLetters) {
+    for (const std::string& value : {std::string("\xC0\xC1\xD2\xE3\xF4"), std::string("jklmno")}) {
+        Redactor redactor({.values = {value}});
+        const std::string pseudonym = PseudonymOf(redactor, value);
+        const char* const small = "0123456789abcdef";
+        EXPECT_EQ(Redacted(redactor, Hex(value, small)), Hex(pseudonym, small));
+        EXPECT_EQ(Redacted(redactor, Hex(value)), Hex(pseudonym));
+    }
 }
 
 TEST(Redact, EveryEncodingKeepsItsLengthAndKind) {

@@ -38,6 +38,10 @@ def run(*command, **options):
     return done.stdout
 
 
+def tell(figure):
+    print(f"-- {figure}", file=sys.stderr, flush=True)
+
+
 def fresh(name):
     folder = WORK / name
     shutil.rmtree(folder, ignore_errors=True)
@@ -109,6 +113,8 @@ class Document(unittest.TestCase):
             found = {f"./{path.relative_to(folder).as_posix()}": hashlib.sha256(path.read_bytes()).hexdigest()
                      for path in folder.rglob("*") if path.is_file() and not path.is_symlink()}
             self.assertEqual(told, found)
+        tell(f"{len(files)} files of {len(artefacts)} archives and packages, each with its sum; "
+             f"{len(document['packages']) - len(artefacts)} parts of others")
 
     def test_names_what_is_not_our_own(self):
         document = json.loads(one("*.spdx.json").read_text())
@@ -178,6 +184,7 @@ class Linux(unittest.TestCase):
         symbols, _ = assert_hardened(self, self.tree / "bin/krm")
         self.assertGreater(count, 1000)
         self.assertRegex(symbols, r"__\w+_chk@")
+        tell(f"{count} exported functions of {len(LIBRARIES)} libraries begin with the mark for indirect calls")
 
     def test_exports_what_the_interface_lists(self):
         run(sys.executable, ROOT / "tests/interface/check_exports.py", ROOT / "tests/interface/exports.txt",

@@ -122,6 +122,14 @@ TEST(TreePath, LeadsToElements) {
     EXPECT_EQ("2025", std::string(tree::Find(*vehicle, "Ecu/Dtc[1]")->GetAttribute(nullptr, "Code")->GetString()));
 }
 
+TEST(TreePath, AValueMayHaveAnEqualsSign) {
+    CKRMCElement root("R");
+    CKRMCElement* const first = root.CreateElement(nullptr, "E");
+    Set(*first, "Unit", "a=b=c");
+    EXPECT_EQ(first, tree::Find(root, "E[@Unit=a=b=c]"));
+    EXPECT_EQ(nullptr, tree::Find(root, "E[@Unit=a=b]"));
+}
+
 TEST(TreePath, OfAnotherFormFindsNothing) {
     const auto vehicle = Vehicle();
     for (const char* const path :
