@@ -115,7 +115,7 @@ copy_sources "$second/source"
 for made in "$first"/made/*; do
     cmp "$made" "$second/made/$(basename "$made")"
 done
-say "both give the same bytes"
+say "both give the same bytes: $(find "$first/made" -type f | wc -l) files"
 
 rm -rf build/packages
 mkdir -p build
