@@ -495,6 +495,8 @@ TEST(RawFromPhysical, OfAScalingThatGivesOneValueThereIsNoInverse) {
         EXPECT_EQ("no inverse", Raw(Rule(type, zero), display.m_dDataPhys)) << type;
         EXPECT_EQ("none", Raw(Rule(type, zero), 6.0)) << type;
     }
+    EXPECT_EQ("no inverse", Raw(Rule(0, zero), "5"));
+    EXPECT_EQ("none", Raw(Rule(0, zero), "6"));
     EXPECT_EQ("found 6", Raw(Rule(101, zero), 6.0)) << "BCD isn't scaled";
 }
 
@@ -549,8 +551,15 @@ TEST(RawFromPhysical, UndoesBcd) {
     EXPECT_EQ("found " + std::to_string(0xF9999999U), Raw(Rule(101, Table(32)), -9999999.0));
     EXPECT_EQ("none", Raw(Rule(101, Table(16)), 10000.0));
     EXPECT_EQ("none", Raw(Rule(101, Table(16)), -1000.0));
+    for (const double value : {100.0, 150.0, 1099.0, 12345678.0, 99999999.0, -10.0, -12.0, -1009.0, -9999999.0}) {
+        EXPECT_EQ("none", Raw(Rule(101, Table(8)), value)) << value;
+    }
     for (const int bits : {0, 1, 10, 33, 40, 65535}) {
-        EXPECT_EQ("no inverse", Raw(Rule(101, Table(static_cast<unsigned short>(bits))), 1.0)) << bits;
+        const CKRMCCommandConversionData table = Table(static_cast<unsigned short>(bits));
+        const SignalRule rule = Rule(101, table);
+        EXPECT_EQ("no inverse", Raw(rule, 1.0)) << bits;
+        EXPECT_EQ("no inverse", Raw(rule, "0")) << bits;
+        EXPECT_EQ("no inverse", Raw(rule, "1")) << bits;
     }
 }
 
