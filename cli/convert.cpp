@@ -2,7 +2,6 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
-#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,14 +42,11 @@ krm_ulong RawIn(const std::string& text, const char* what) {
     std::string_view digits = text;
     const bool isHex = digits.starts_with("0x") || digits.starts_with("0X");
     digits.remove_prefix(isHex ? 2 : 0);
-    std::int64_t number = 0;
-    const char* const end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, number, isHex ? 16 : 10);
-    if (error != std::errc() || stop != end || (isHex && digits.starts_with('-')) ||
-        number < std::numeric_limits<std::int32_t>::min() || number > std::numeric_limits<std::uint32_t>::max()) {
+    const std::optional<krm_ulong> bits = BitsIn(digits, isHex ? 16 : 10);
+    if (!bits || (isHex && digits.starts_with('-'))) {
         throw Failure(std::string(what) + " is no number of 32 bits, such as 123 or 0x7B: " + Shown(text));
     }
-    return static_cast<krm_ulong>(number);
+    return *bits;
 }
 
 /// Bytes in hexadecimal, with 0x in front and blanks between or without.

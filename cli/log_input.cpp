@@ -1,11 +1,10 @@
 #include "cli/log_input.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstring>
-#include <limits>
 #include <utility>
 
+#include "cli/patterns.h"
 #include "krm/framework/commands.h"
 #include "krm/messages/describe.h"
 
@@ -44,17 +43,6 @@ void ForEachWord(std::string_view prefix, Take take) {
         take(word, begin, IsTime(word));
         begin = end;
     }
-}
-
-/// A 32-bit number as the log has it, signed or not.
-std::optional<krm_ulong> Number(std::string_view text) {
-    krm_int64 number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size() || number < std::numeric_limits<krm_long>::min() ||
-        number > std::numeric_limits<krm_ulong>::max()) {
-        return std::nullopt;
-    }
-    return static_cast<krm_ulong>(number);
 }
 
 /// The prefix's parts, in texts that may have memory already.
@@ -195,7 +183,7 @@ void LogInput::TakeHead(const ClassInfo& info) {
     if (info.direction) {
         m_head.direction = info.direction;
     }
-    const std::optional<krm_ulong> number = Number(m_field.value);
+    const std::optional<krm_ulong> number = BitsIn(m_field.value, 10);
     if (info.role == Role::Message) {
         m_head.className = info.name;
         m_head.command = info.command;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 
 #include "cli/terminal/control_characters.h"
 
@@ -160,6 +161,17 @@ std::optional<double> NumberIn(std::string_view text) {
     const auto [stop, error] = std::from_chars(text.data(), end, number);
     const std::string_view rest = text.substr(static_cast<std::size_t>(stop - text.data()));
     return error == std::errc() && IsEndOfNumber(rest) ? std::optional(number) : std::nullopt;
+}
+
+std::optional<std::uint32_t> BitsIn(std::string_view digits, int base) {
+    std::int64_t number = 0;
+    const char* const end = digits.data() + digits.size();
+    const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
+    if (error != std::errc() || stop != end || number < std::numeric_limits<std::int32_t>::min() ||
+        number > std::numeric_limits<std::uint32_t>::max()) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint32_t>(number);
 }
 
 std::string TextOf(double number) {

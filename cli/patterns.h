@@ -3,6 +3,7 @@
 #define KRM_CLI_PATTERNS_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,9 @@ std::string Lower(std::string_view text);
 /// A number: decimal, with a fraction or an exponent or not, hexadecimal behind 0x, signed and behind it unsigned in
 /// brackets, or true and false, which are 1 and 0. Nothing else may stand there.
 std::optional<double> NumberIn(std::string_view text);
+/// 32 bits of a number that may have been written with a sign or without: -1 gives what 4294967295 does. Digits alone, behind
+/// a minus or not.
+std::optional<std::uint32_t> BitsIn(std::string_view digits, int base);
 /// The number with the fewest digits that read back to the same bits; without an exponent from 0.000001 to 999999999999999.
 std::string TextOf(double number);
 /// Whether this is what may stand behind a number's digits: nothing, or the same number unsigned, as "%d(%u)" writes it.

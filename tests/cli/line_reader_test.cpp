@@ -21,6 +21,9 @@ using krm_cli::Line;
 using krm_cli::LineReader;
 using ::testing::ElementsAre;
 
+/// So much is read at a time.
+constexpr std::size_t kBlock = std::size_t{2} * 1024 * 1024;
+
 std::vector<std::string> LinesOf(const std::string& text, std::size_t maxLine = LineReader::kMaxLine) {
     Reading reading(text);
     LineReader lines(reading.Source(), maxLine);
@@ -73,7 +76,6 @@ TEST(LineReader, LeavesAByteOrderMarkOutThatComesInPieces) {
 }
 
 TEST(LineReader, KeepsAMarkThatIsNotTheFirst) {
-    constexpr std::size_t kBlock = std::size_t{2} * 1024 * 1024;
     const std::string text = std::string(kBlock - 1, 'x') + "\n\xEF\xBB\xBFy\n";
     Reading reading(text);
     LineReader lines(reading.Source());
@@ -88,7 +90,6 @@ TEST(LineReader, CutsALineThatIsTooLong) {
 }
 
 TEST(LineReader, CutsAlikeWhereverBlocksEnd) {
-    constexpr std::size_t kBlock = std::size_t{2} * 1024 * 1024;
     for (std::size_t before = kBlock - 10; before <= kBlock; ++before) {
         std::string text;
         while (text.size() + 4 <= before) {
@@ -109,7 +110,6 @@ TEST(LineReader, CutsAlikeWhereverBlocksEnd) {
 
 // A carriage return that comes alone belongs to the line until the line's end is seen.
 TEST(LineReader, LeavesTheEndOfALineOfJustTheMostOutWhereverBlocksEnd) {
-    constexpr std::size_t kBlock = std::size_t{2} * 1024 * 1024;
     for (std::size_t before = kBlock - 6; before <= kBlock; ++before) {
         Reading reading(std::string(before - 1, 'x') + "\n123\r\n1234\n");
         LineReader lines(reading.Source(), 4);

@@ -21,7 +21,7 @@ std::string Type(int type = 1) {
 std::string Id(int id) {
     return "[CKRMCBaseCmdAdaptData::ErrWriteOperationLog] m_dwCommandID=" + std::to_string(id);
 }
-std::string Ecu(int ecu) {
+std::string Ecu(krm_int64 ecu) {
     return "[CKRMCBaseCmdAdaptDataSnd::ErrWriteOperationLog] m_ulEcuId=" + std::to_string(ecu);
 }
 std::string NotSupported(int flag = 0) {
@@ -114,21 +114,19 @@ TEST(LogInput, TakesAWaitingLineOfAnotherClassForAnotherMessage) {
 }
 
 TEST(LogInput, HasNumbersOf32Bits) {
-    const auto events = [](const std::string& ecu) {
-        return Events(Type() + '\n' + Id(2) + "\n[CKRMCBaseCmdAdaptDataSnd" + kOp + "m_ulEcuId=" + ecu + '\n');
-    };
+    const auto events = [](krm_int64 ecu) { return Events(Type() + '\n' + Id(2) + '\n' + Ecu(ecu) + '\n'); };
     const auto expected = [](const std::string& written, const std::string& ecu) {
         return "begin 1\n1 m_dwCommandType=1\n1 m_dwCommandID=2\n1 m_ulEcuId=" + written + "\nend 1 GetDTC request" +
                ecu + '\n';
     };
-    EXPECT_EQ(events("70000"), expected("70000", ", ECU 70000"));
+    EXPECT_EQ(events(70000), expected("70000", ", ECU 70000"));
     // The dump writes it as a signed number.
-    EXPECT_EQ(events("-2"), expected("-2", ", ECU 4294967294"));
-    EXPECT_EQ(events("-2147483648"), expected("-2147483648", ", ECU 2147483648"));
-    EXPECT_EQ(events("4294967295"), expected("4294967295", ", ECU 4294967295"));
+    EXPECT_EQ(events(-2), expected("-2", ", ECU 4294967294"));
+    EXPECT_EQ(events(-2147483648), expected("-2147483648", ", ECU 2147483648"));
+    EXPECT_EQ(events(4294967295), expected("4294967295", ", ECU 4294967295"));
     // No ECU has more.
-    EXPECT_EQ(events("-2147483649"), expected("-2147483649", ""));
-    EXPECT_EQ(events("4294967296"), expected("4294967296", ""));
+    EXPECT_EQ(events(-2147483649), expected("-2147483649", ""));
+    EXPECT_EQ(events(4294967296), expected("4294967296", ""));
 }
 
 // While one message is read there is room for so much of the others, which is free again when they are taken.
