@@ -31,8 +31,8 @@ processors, or --jobs. Kinds:
 Comments, preprocessor lines, Windows' own code and texts that are no format of a log line stay as they are; so do changes
 that change nothing by their kind (%d for %u where the field has less than 32 bits, or is an index; a class that may be
 copied in one step copied field by field; an int or a std::size_t made a short, as they count bits, digits or elements;
-std::min's arguments exchanged). The types of the interface's fields stay, too: their layout has tests of its own
-(tests/interface/), which a changed header isn't compiled with.
+std::min's arguments exchanged, a returned kDone, which is 0 already). The types of the interface's fields stay, too: their
+layout has tests of its own (tests/interface/), which a changed header isn't compiled with.
 
 DIR is a tree that is built already (build/linux64; `./dev mutate` builds it). Neither the checkout nor the tree is ever
 changed: the changed file, all that is built from it and what the tests write lie in DIR/mutants, which goes at the end,
@@ -165,6 +165,7 @@ TYPED_NAME = re.compile(r"\b(?P<type>(?:unsigned )?[A-Za-z_][\w:]*(?:<[\w:]+>)?(
 NO_TYPES = {"auto", "return", "case", "new", "delete", "class", "typename", "struct", "else", "namespace", "throw", "goto"}
 ARGUMENT = re.compile(r"[A-Za-z_]\w*(?:(?:\.|->)[A-Za-z_]\w*)*")
 SYMMETRIC = {"min", "max", "swap", "Same"}
+ZEROS = {"kDone"}  # what is returned by these names is 0
 NO_CALLS = {"if", "while", "for", "switch", "return", "sizeof", "catch", "operator"}
 
 
@@ -429,7 +430,7 @@ def mutants_of(path, error_codes, fields):
             kind = "default" if field else "return" if before == "return" else "logic"
             add(kind, start, end, "false" if word == "true" else "true")
         elif kind == "word" and re.match(r"k[A-Z]", word):
-            if before == "return" and tokens[i + 1].group() == ";":
+            if before == "return" and tokens[i + 1].group() == ";" and word not in ZEROS:
                 add("return", start, end, "0")
             elif before == "(" and tokens[i - 2].group() == "Fail" and word in error_codes:
                 others = error_codes
